@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "automation/error.h"
+
+namespace automation {
+
+Error::Error(Reason reason, const QString &message)
+    : std::runtime_error(message.toStdString())
+    , m_reason(reason)
+{
+}
+
+Error::~Error() = default;
+
+} // namespace automation

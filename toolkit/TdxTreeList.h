@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// The grid and the tree of every page: columns with component names, nodes with values by position.
+#pragma once
+
+#include "automation/datapacket.h"
+#include "toolkit/TdxTreeListColumn.h"
+#include "toolkit/TdxTreeListNode.h"
+#include "toolkit/celldrawing.h"
+
+#include <QIcon>
+#include <QPointer>
+#include <QTreeView>
+
+#include <memory>
+#include <vector>
+
+class QMenu;
+
+/// A list (nodes on one level, filled from a data packet without copying its text) or a tree (nodes added one by
+/// one, on several levels). All handlers run guarded: an error they raise is displayed by the host.
+///
+/// Focus: endUpdate() after a clearNodes() focuses the top node (none when the list is empty) without telling
+/// anybody; moving the focus by keyboard, mouse or setFocusedNode() emits changeNode once.
+class TdxTreeList : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit TdxTreeList(QWidget *parent = nullptr);
+    ~TdxTreeList() override;
+
+    // ---- columns
+    /// Replaces all columns. Column objects become children of the list under their component names.
+    void setColumns(const std::vector<toolkit::ColumnDefinition> &columns);
+    [[nodiscard]] int columnCount() const;
+    [[nodiscard]] TdxTreeListColumn *column(int position) const;
+    /// Null when there is none of that component name.
+    [[nodiscard]] TdxTreeListColumn *columnByName(const QString &name) const;
+    /// The first `columns` columns stay in place when the others scroll sideways.
+    void setFixedBand(int columns);
+    /// Whether a click on a header sorts (default: yes). Numbers sort as numbers in currency columns and wherever all
+    /// texts of the column are numbers, Chinese by pinyin, equal rows keep their order; columns without any value
+    /// leave the order as it was.
+    void setAutoSort(bool enabled);
+
+    // ---- nodes
+    void beginUpdate();
+    /// Paints once, however much has changed since the outermost beginUpdate().
+    void endUpdate();
+    void clearNodes();
+    /// Adds a node behind the last child of `parent` (behind the last top-level node when it is null).
+    TdxTreeListNode addNode(const TdxTreeListNode &parent = {});
+    /// Adds one top-level node for each row of the packet. A column reads the packet column named by its field;
+    /// throws std::runtime_error when a field is missing from a packet that has columns.
+    void addRows(const automation::DataPacketPtr &rows);
+
+    [[nodiscard]] int count() const; ///< top-level nodes
+    [[nodiscard]] TdxTreeListNode node(int index) const; ///< top-level node in the order shown
+    [[nodiscard]] TdxTreeListNode topNode() const;
+    [[nodiscard]] TdxTreeListNode focusedNode() const;
+    void setFocusedNode(const TdxTreeListNode &node);
+    /// Stores one value at `position` of every top-level node, with one repaint.
+    void setValueOfAll(int position, const QVariant &value);
+
+    // ---- looks
+    /// Background of the list; also used for cells without a colour of their own.
+    void setColor(toolkit::WindowsColour colour);
+    [[nodiscard]] toolkit::WindowsColour color() const noexcept;
+    /// Asked for every painted cell.
+    void setCustomDrawCell(toolkit::CellDrawing drawing);
+    void setImages(const QList<QIcon> &images);
+    void setFooterVisible(bool visible);
+    /// Text of the footer cell below a column.
+    void setFooterText(int position, const QString &text);
+    [[nodiscard]] QString footerText(int position) const;
+
+    // ---- commands
+    /// Shown on a context-menu request over the list; null for none. Borrowed.
+    void setPopupMenu(QMenu *menu);
+    [[nodiscard]] QMenu *popupMenu() const;
+
+    // QAbstractItemView
+    void setModel(QAbstractItemModel *model) override;
+    [[nodiscard]] QRect visualRect(const QModelIndex &index) const override;
+    [[nodiscard]] QModelIndex indexAt(const QPoint &point) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+
+Q_SIGNALS:
+    /// The focused node is another one now (null when the focus was lost).
+    void changeNode(const TdxTreeListNode &node);
+    /// The user toggled an editable check cell of the focused row by click or space. Nothing is stored: `newState` is
+    /// the text the cell would take, and storing it is the handler's decision.
+    void toggleClick(TdxTreeListColumn *column, const QString &newState);
+    /// Double-click on a row, or Enter with a focused row.
+    void dblClick();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void updateGeometries() override;
+
+private:
+    friend class TdxTreeListNode;
+    class Private;
+    std::unique_ptr<Private> d;
+};
