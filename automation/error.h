@@ -16,10 +16,10 @@ class AUTOMATION_EXPORT Error : public std::runtime_error {
 public:
     enum class Reason {
         UnknownIdentifier, ///< no object is registered under the identifier
-        NoObject,          ///< the reference is empty
-        UnknownOperation,  ///< the object has no operation of that name and kind
-        ArgumentCount,     ///< the operation exists but takes another number of arguments
-        ArgumentType       ///< an argument or the result cannot be converted
+        NoObject, ///< the reference is empty
+        UnknownOperation, ///< the object has no operation of that name and kind
+        ArgumentCount, ///< the operation exists but takes another number of arguments
+        ArgumentType ///< an argument or the result cannot be converted
     };
 
     Error(Reason reason, const QString &message);

@@ -12,12 +12,12 @@ namespace automation {
 
 /// One finished call, in the order in which calls ended.
 struct CallRecord {
-    QString object;    ///< "DataCtl", "FuncStorage", "CodeSearch"
+    QString object; ///< "DataCtl", "FuncStorage", "CodeSearch"
     QString operation; ///< the name as the caller spelled it
     Kind kind = Kind::Method;
     QVariantList arguments;
     QVariant result; ///< invalid when there is none
-    QString error;   ///< the failure's message; empty when the call succeeded
+    QString error; ///< the failure's message; empty when the call succeeded
     bool succeeded = true;
 };
 

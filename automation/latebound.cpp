@@ -58,10 +58,11 @@ QString kindText(Kind kind)
 
 [[noreturn]] void wrongCount(const QString &object, const QString &operation, std::size_t expected, std::size_t given)
 {
-    throw Error(Error::Reason::ArgumentCount, QStringLiteral("调用“%1.%2”的参数个数不符：应为%3个，实为%4个。")
-                                                  .arg(object, operation)
-                                                  .arg(expected)
-                                                  .arg(given));
+    throw Error(Error::Reason::ArgumentCount,
+                QStringLiteral("调用“%1.%2”的参数个数不符：应为%3个，实为%4个。")
+                    .arg(object, operation)
+                    .arg(expected)
+                    .arg(given));
 }
 
 void convertArgument(QVariant &value, QMetaType type, const QString &object, const QString &operation)
@@ -71,8 +72,7 @@ void convertArgument(QVariant &value, QMetaType type, const QString &object, con
     if (!value.isValid())
         value = QVariant(type); // an empty variant passes as the type's own empty value
     else if (!value.convert(type))
-        throw Error(Error::Reason::ArgumentType,
-                    QStringLiteral("调用“%1.%2”的参数类型不符。").arg(object, operation));
+        throw Error(Error::Reason::ArgumentType, QStringLiteral("调用“%1.%2”的参数类型不符。").arg(object, operation));
 }
 
 } // namespace
@@ -155,8 +155,7 @@ QVariant LateBound::run(const Operation &operation, std::initializer_list<QVaria
         const QMetaType type = method.parameterMetaType(static_cast<int>(position));
         convertArgument(value, type, m_name, operation.m_name);
         ++position;
-        pointers[position] =
-            type == QMetaType::fromType<QVariant>() ? static_cast<void *>(&value) : value.data();
+        pointers[position] = type == QMetaType::fromType<QVariant>() ? static_cast<void *>(&value) : value.data();
     }
     // The call goes straight to the object: host objects live on the caller's thread, and an exception of the
     // operation must reach the caller.

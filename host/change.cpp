@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "host/change.h"
+
+#include "automation/error.h"
+#include "host/references.h"
+
+#include <exception>
+
+namespace host {
+
+namespace {
+
+void rollBackAndAlert(References &host, const QString &failure, const QString &reason)
+{
+    std::exception_ptr rollbackFailure;
+    try {
+        host.DataCtl.RollbackTran();
+    } catch (const std::exception &) {
+        rollbackFailure = std::current_exception();
+    }
+    host.FuncStorage.Alert(failure + QStringLiteral("\r\n") + reason);
+    if (rollbackFailure)
+        std::rethrow_exception(rollbackFailure);
+}
+
+} // namespace
+
+void runChange(References &host, const QString &failure, FailingBegin failingBegin, const std::function<void()> &steps)
+{
+    if (failingBegin == FailingBegin::Propagates)
+        host.DataCtl.BeginTran();
+    try {
+        if (failingBegin == FailingBegin::IsAlerted)
+            host.DataCtl.BeginTran();
+        steps();
+    } catch (const std::exception &error) {
+        rollBackAndAlert(host, failure, automation::messageOf(error));
+    }
+}
+
+} // namespace host

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+// Host objects that note every call and fail where they are told to: for failures that no database produces on demand.
+#pragma once
+
+#include "automation/datapacket.h"
+#include "automation/latebound.h"
+#include "automation/registry.h"
+
+#include <QHash>
+#include <QObject>
+#include <QStringList>
+
+#include <stdexcept>
+
+/// What the scripted objects share.
+struct HostScript {
+    QStringList calls;
+    QString failingCall; ///< the call, as it stands in `calls`, that raises an error
+    QHash<QString, QVariant> parameters;
+    automation::DataPacketPtr rows = automation::DataPacketBuilder({}).finish();
+
+    void note(const QString &call)
+    {
+        calls.append(call);
+        if (call == failingCall)
+            throw std::runtime_error("故障");
+    }
+};
+
+class ScriptedDataCtl : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ScriptedDataCtl(HostScript &script)
+        : m_script(script)
+    {
+    }
+    Q_INVOKABLE QVariant OpenSql(const QString &sql)
+    {
+        m_script.note(QStringLiteral("OpenSql ") + sql);
+        return QVariant::fromValue(m_script.rows);
+    }
+    Q_INVOKABLE void CloseSql() { m_script.note(QStringLiteral("CloseSql")); }
+    Q_INVOKABLE void execSql(const QString &sql) { m_script.note(QStringLiteral("execSql ") + sql); }
+    Q_INVOKABLE void BeginTran() { m_script.note(QStringLiteral("BeginTran")); }
+    Q_INVOKABLE void CommitTran() { m_script.note(QStringLiteral("CommitTran")); }
+    Q_INVOKABLE void RollbackTran() { m_script.note(QStringLiteral("RollbackTran")); }
+
+private:
+    HostScript &m_script;
+};
+
+class ScriptedFuncStorage : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ScriptedFuncStorage(HostScript &script)
+        : m_script(script)
+    {
+    }
+    Q_INVOKABLE AUTOMATION_READ QVariant CustomParam(const QString &name)
+    {
+        m_script.note(QStringLiteral("CustomParam ") + name);
+        return m_script.parameters.value(name);
+    }
+    Q_INVOKABLE void Alert(const QString &text) { m_script.note(QStringLiteral("Alert ") + text); }
+    Q_INVOKABLE void ShowHint(const QString &text) { m_script.note(QStringLiteral("ShowHint ") + text); }
+    Q_INVOKABLE QString UserName() { return QStringLiteral("王会计"); }
+    Q_INVOKABLE QString UserID()
+    {
+        m_script.note(QStringLiteral("UserID"));
+        return QStringLiteral("02");
+    }
+    Q_INVOKABLE QString RightParam() { return QStringLiteral("12"); }
+    Q_INVOKABLE QVariant GetSRM() { return 7; }
+
+private:
+    HostScript &m_script;
+};
+
+class ScriptedCodeSearch : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString Table READ table WRITE setTable)
+
+public:
+    explicit ScriptedCodeSearch(HostScript &script)
+        : m_script(script)
+    {
+    }
+    [[nodiscard]] QString table() const { return {}; }
+    void setTable(const QString &table) { m_script.note(QStringLiteral("Table ") + table); }
+
+private:
+    HostScript &m_script;
+};
+
+/// Announces the three objects while it lives.
+class ScriptedHost {
+public:
+    ScriptedHost()
+    {
+        announce<ScriptedDataCtl>("VortaqCore.DataCtl");
+        announce<ScriptedFuncStorage>("VortaqCore.FuncStorage");
+        announce<ScriptedCodeSearch>("VortaqCore.CodeSearch");
+    }
+    ~ScriptedHost()
+    {
+        for (const char *identifier : {"VortaqCore.DataCtl", "VortaqCore.FuncStorage", "VortaqCore.CodeSearch"})
+            automation::unregisterObject(QString::fromUtf8(identifier));
+    }
+    ScriptedHost(const ScriptedHost &) = delete;
+    ScriptedHost &operator=(const ScriptedHost &) = delete;
+
+    HostScript script;
+    QStringList created; ///< identifiers in the order of creation
+
+private:
+    template <typename Object> void announce(const char *identifier)
+    {
+        const QString name = QString::fromUtf8(identifier);
+        automation::registerObject(name, [this, name] {
+            created.append(name);
+            return std::make_unique<Object>(script);
+        });
+    }
+};
