@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// What a user may see: the institutions that he may bill.
+#include "data/rightsfilter.h"
+
+#include "data/quoting.h"
+
+namespace data {
+
+using namespace Qt::Literals::StringLiterals;
+
+QString institutionsWithUnbilled()
+{
+    return u" select OrgCode,OrgName  from p_Ylfwdw  where OrgCode in (select OrgCode from o_CbZyBxDj"
+           u"                    where BillNo is null                    group by OrgCode ) order by"
+           u" OrgCode "_s;
+}
+
+QString grantedInstitutionsWithUnbilled(const Grant &grant)
+{
+    return u" select d.OrgCode,e.OrgName  from r_UserRights a,r_RoleItem b,r_SubSysInfo c,"
+           u"r_BillCheckList d,p_Ylfwdw e where a.RoleCode=b.RoleCode and b.SubSysCode=c.SubSysCode"
+           u"    and b.RoleCode=d.RoleCode and b.RightCode=d.RightCode and b.SubSysCode=d.SubSysCode"
+           u"   and d.OrgCode=e.OrgCode and d.OrgCode in (select OrgCode from o_CbZyBxDj"
+           u"                                            where BillNo is null"
+           u"                                            group by OrgCode )   and b.IsBillAll='2' and"
+           u" c.SubSysCode='1' and d.BillCheck='1'    and a.UserCode="_s
+        + quotedStr(grant.userCode) + u"   and b.RightCode="_s + quotedStr(grant.rightCode) + u" order by d.OrgCode "_s;
+}
+
+QString recordFilter(const Grant &grant, const RecordFilterIndent &indent)
+{
+    const QString tables(indent.tables, u' ');
+    const QString conditions(indent.conditions, u' ');
+    return u" and OrgCode in (select OrgCode "_s + tables
+        + u"from r_UserRights a,r_RoleItem b,r_SubSysInfo c,r_BillCheckList d "_s + tables
+        + u"where a.RoleCode=b.RoleCode and b.SubSysCode=c.SubSysCode "_s + conditions
+        + u"and b.RoleCode=d.RoleCode and b.RightCode=d.RightCode and b.SubSysCode=d.SubSysCode"_s + conditions
+        + u"and b.IsBillAll='2' and c.SubSysCode='1' and d.BillCheck='1' "_s + conditions + u"and a.UserCode="_s
+        + quotedStr(grant.userCode) + conditions + u"and b.RightCode="_s + quotedStr(grant.rightCode) + u")"_s;
+}
+
+QString scopeByInstitutionType(const QString &orgType, const QString &areaCode, const QString &orgCode)
+{
+    if (orgType == u"1")
+        return u" OrgCode like '"_s + areaCode + u"%' "_s;
+    return orgType == u"2" ? u" OrgCode ="_s + quotedStr(orgCode) : QString();
+}
+
+} // namespace data
