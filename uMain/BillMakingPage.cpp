@@ -10,12 +10,14 @@
 #include "toolkit/clock.h"
 #include "toolkit/dateformat.h"
 #include "toolkit/guard.h"
+#include "toolkit/hostformats.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
+#include "uDjDetail/TfrmDjDetail.h"
 #include "uMain/InstitutionSearch.h"
+#include "uMain/ReturningRecords.h"
 #include "uMain/SavingBill.h"
 #include "uMain/columns.h"
-#include "uMain/formats.h"
 #include "uMain/menus.h"
 #include "uMain/workbench.h"
 #include "ui_BillMakingPage.h"
@@ -54,6 +56,10 @@ void BillMakingPage::connectHandlers()
                    [this] { SetAllChecked(m_checkColumn, false); });
     connectGuarded(m_ui->edtOrgCode, &CodeSearchEdit::keyDown, this, [this](int key) { edtOrgCodeKeyDown(key); });
     connectGuarded(m_ui->btnSave, &QPushButton::clicked, this, [this] { btnSaveClick(); });
+    connectGuarded(m_ui->btnBack, &QPushButton::clicked, this, [this] { btnBackClick(); });
+    connectGuarded(m_ui->dxTLUp, &TdxTreeList::dblClick, this, [this] { showFeeDetail(*m_ui->dxTLUp); });
+    connectGuarded(findChild<QAction *>(QStringLiteral("mFeeInfo")), &QAction::triggered, this,
+                   [this] { showFeeDetail(*m_ui->dxTLUp); });
     connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, [this] { Q_EMIT exitRequested(); });
 }
 
@@ -165,4 +171,15 @@ void BillMakingPage::btnSaveClick()
         saving.write(
             {{m_ui->edtOrgCode->text(), QString()}, m_ui->edtOrgName->text(), writeDate, m_ui->edtPrincipal->text()});
     }
+}
+
+void BillMakingPage::btnBackClick()
+{
+    if (m_ui->dxTLUp->count() == 0)
+        return;
+    const std::vector<data::RecordKey> records = toolkit::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
+    if (records.empty())
+        m_workbench.host().FuncStorage.Alert(QStringLiteral("没有要退单的记录，请打勾选择！"));
+    else
+        returnRecords(m_workbench, records, this);
 }

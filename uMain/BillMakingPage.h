@@ -38,6 +38,7 @@ private:
     void dxTLUpCheckToggleClick(const QString &newState);
     void edtOrgCodeKeyDown(int virtualKey);
     void btnSaveClick();
+    void btnBackClick();
     [[nodiscard]] bool headerIsComplete();
 
     std::unique_ptr<Ui::BillMakingPage> m_ui;

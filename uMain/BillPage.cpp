@@ -3,33 +3,48 @@
 
 #include "data/captions.h"
 #include "host/clientdataset.h"
+#include "toolkit/TreeListUpdate.h"
 #include "toolkit/guard.h"
+#include "toolkit/hostformats.h"
+#include "toolkit/messageboxes.h"
+#include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
+#include "uAddBill/TfrmAddBill.h"
+#include "uDjDetail/TfrmDjDetail.h"
+#include "uMain/BillChanges.h"
+#include "uMain/billtrees.h"
 #include "uMain/columns.h"
-#include "uMain/formats.h"
 #include "uMain/menus.h"
 #include "uMain/trees.h"
 #include "ui_BillPage.h"
 
 #include <QMenu>
 
-BillPage::BillPage(Workbench &workbench, const BillPageNames &names, QWidget *parent)
+namespace {
+
+bool confirmed(QWidget *window, const QString &question)
+{
+    return toolkit::messageBoxes().ask(window, QStringLiteral("确认"), question);
+}
+
+} // namespace
+
+BillPage::BillPage(Workbench &workbench, TClientDataSet &scratch, const BillPageKind &kind, QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::BillPage>())
     , m_workbench(workbench)
-    , m_names(names)
-    , m_bills(new TClientDataSet(this))
+    , m_scratch(scratch)
+    , m_kind(kind)
+    , m_rows(new TClientDataSet(this))
 {
     m_ui->setupUi(this);
     applyNames();
-    setUpTree(*m_ui->tree, m_names.treeColumn);
+    setUpTree(*m_ui->tree, m_kind.treeColumn);
     setUpGrid();
+    setUpMenu();
     m_ui->splitter->setStretchFactor(1, 1);
-    createMenu(this, m_names.menu,
-               {{m_names.reportItem, "整批上报制单", m_names.reportTag},
-                {m_names.cancelItem, "整批取消制单", m_names.cancelTag},
-                {m_names.uploadItem, "整批数据上传"}});
-    toolkit::connectGuarded(m_ui->exitButton, &QPushButton::clicked, this, [this] { Q_EMIT exitRequested(); });
+    connectHandlers();
+    m_workbench.reload.*m_kind.ownTree = [this] { loadBillTree(); };
 }
 
 BillPage::~BillPage() = default;
@@ -37,25 +52,25 @@ BillPage::~BillPage() = default;
 void BillPage::applyNames()
 {
     const std::vector<std::pair<QObject *, const char *>> components = {
-        {this, m_names.page},
-        {m_bills, m_names.dataSet},
-        {m_ui->tree, m_names.tree},
-        {m_ui->grid, m_names.grid},
-        {m_ui->captionPanel, m_names.captionPanel},
-        {m_ui->captionLabel, m_names.caption},
-        {m_ui->count, m_names.count},
-        {m_ui->totalFee, m_names.totalFee},
-        {m_ui->canFreeFee, m_names.canFreeFee},
-        {m_ui->totalsPanel, m_names.totalsPanel},
-        {m_ui->cancelButton, m_names.cancelButton},
-        {m_ui->uploadButton, m_names.uploadButton},
-        {m_ui->addButton, m_names.addButton},
-        {m_ui->exitButton, m_names.exitButton},
+        {this, m_kind.page},
+        {m_rows, m_kind.dataSet},
+        {m_ui->tree, m_kind.tree},
+        {m_ui->grid, m_kind.grid},
+        {m_ui->captionPanel, m_kind.captionPanel},
+        {m_ui->captionLabel, m_kind.caption},
+        {m_ui->count, m_kind.count},
+        {m_ui->totalFee, m_kind.totalFee},
+        {m_ui->canFreeFee, m_kind.canFreeFee},
+        {m_ui->totalsPanel, m_kind.totalsPanel},
+        {m_ui->cancelButton, m_kind.cancelButton},
+        {m_ui->uploadButton, m_kind.uploadButton},
+        {m_ui->addButton, m_kind.addButton},
+        {m_ui->exitButton, m_kind.exitButton},
     };
     for (const auto &[component, name] : components)
         component->setObjectName(QString::fromUtf8(name));
-    m_ui->cancelButton->setProperty("tag", m_names.cancelTag);
-    m_ui->addButton->setProperty("tag", m_names.addTag);
+    m_ui->cancelButton->setProperty("tag", m_kind.cancelTag);
+    m_ui->addButton->setProperty("tag", m_kind.addTag);
 }
 
 void BillPage::setUpGrid()
@@ -63,16 +78,39 @@ void BillPage::setUpGrid()
     std::vector<toolkit::ColumnDefinition> columns = billColumns();
     m_columnNames.reserve(columns.size());
     for (toolkit::ColumnDefinition &column : columns) {
-        const std::string suffix = column.kind == toolkit::ColumnKind::Check ? m_names.interfaceColumn : column.name;
-        m_columnNames.push_back(m_names.grid + suffix);
+        const std::string suffix = column.kind == toolkit::ColumnKind::Check ? m_kind.interfaceColumn : column.name;
+        m_columnNames.push_back(m_kind.grid + suffix);
         column.name = m_columnNames.back().c_str();
     }
     m_ui->grid->setColumns(columns);
     m_ui->grid->setFixedBand(BillFixedBand);
 }
 
+void BillPage::setUpMenu()
+{
+    m_billMenu = createMenu(this, m_kind.menu,
+                            {{m_kind.reportItem, "整批上报制单", m_kind.reportTag},
+                             {m_kind.cancelItem, "整批取消制单", m_kind.cancelTag},
+                             {m_kind.uploadItem, "整批数据上传"}});
+}
+
+void BillPage::connectHandlers()
+{
+    using toolkit::connectGuarded;
+    const auto item = [this](const char *name) { return findChild<QAction *>(QString::fromUtf8(name)); };
+    connectGuarded(m_ui->tree, &TdxTreeList::changeNode, this,
+                   [this](const TdxTreeListNode &node) { changeNode(node); });
+    connectGuarded(m_ui->grid, &TdxTreeList::dblClick, this, [this] { showFeeDetail(*m_ui->grid); });
+    connectGuarded(item(m_kind.reportItem), &QAction::triggered, this, [this] { reportBill(); });
+    connectGuarded(item(m_kind.cancelItem), &QAction::triggered, this, [this] { cancelBill(); });
+    connectGuarded(m_ui->cancelButton, &QPushButton::clicked, this, [this] { cancelRecord(); });
+    connectGuarded(m_ui->addButton, &QPushButton::clicked, this, [this] { addRecords(); });
+    connectGuarded(m_ui->exitButton, &QPushButton::clicked, this, [this] { Q_EMIT exitRequested(); });
+}
+
 void BillPage::start()
 {
+    loadBillTree();
     m_ui->captionPanel->setCaption(m_ui->captionLabel, data::reimbursementTitle());
     applyBackground(*m_ui->tree);
     m_ui->tree->setCustomDrawCell(toolkit::organisationTreeDrawing());
@@ -80,4 +118,97 @@ void BillPage::start()
     m_ui->grid->setCustomDrawCell(toolkit::billListDrawing());
     m_ui->grid->column(0)->setCustomDrawCell(toolkit::rowNumberDrawing());
     ApplyMoneyFormat(*m_ui->grid);
+}
+
+void BillPage::loadBillTree()
+{
+    m_workbench.LoadDataSet(data::billsOfPage(m_kind.spelling, m_workbench.session.OrgCode), *m_rows);
+    rebuildBillTree(*m_ui->tree, *m_rows, [this](TdxTreeListNode &bill) {
+        bill.setValue(billnode::Text, m_rows->text(QStringLiteral("WriteDate")));
+        if (!m_kind.billsCarryFees)
+            return;
+        bill.setValue(billnode::Fee, m_rows->number(QStringLiteral("Fee")));
+        bill.setValue(billnode::CanFreeFee, m_rows->number(QStringLiteral("CanFreeFee")));
+    });
+    changeNode(m_ui->tree->topNode());
+}
+
+void BillPage::changeNode(const TdxTreeListNode &node)
+{
+    m_ui->count->clear();
+    m_ui->totalFee->setValue(0);
+    m_ui->canFreeFee->setValue(0);
+    const bool isBill = isBillNode(node);
+    if (node)
+        m_ui->tree->setPopupMenu(isBill ? m_billMenu : nullptr);
+    {
+        const TreeListUpdate update(*m_ui->grid);
+        m_ui->grid->clearNodes();
+    }
+    if (isBill)
+        loadRecords(node);
+}
+
+void BillPage::loadRecords(const TdxTreeListNode &bill)
+{
+    m_workbench.LoadDataSet(data::recordsOfBill(m_kind.spelling, billKeyOf(bill)), *m_rows);
+    double totalFee = 0;
+    double canFreeFee = 0;
+    {
+        const TreeListUpdate update(*m_ui->grid);
+        m_ui->grid->addRows(m_rows->packet());
+    }
+    for (; !m_rows->eof(); m_rows->next()) {
+        totalFee += m_rows->number(QStringLiteral("TotalFee"));
+        canFreeFee += m_rows->number(QStringLiteral("CanFreeFee"));
+    }
+    m_ui->count->setText(QString::number(m_ui->grid->count()));
+    m_ui->totalFee->setValue(totalFee);
+    m_ui->canFreeFee->setValue(canFreeFee);
+}
+
+void BillPage::reportBill()
+{
+    if (!confirmed(this, QStringLiteral("您确认上报此笔制单记录吗？")))
+        return;
+    const TdxTreeListNode bill = m_ui->tree->focusedNode();
+    if (isBillNode(bill))
+        BillChanges(m_workbench, m_scratch, m_kind, this).report(billKeyOf(bill));
+}
+
+void BillPage::cancelBill()
+{
+    if (!confirmed(this, QStringLiteral("您确认取消此笔制单记录吗？")))
+        return;
+    const TdxTreeListNode bill = m_ui->tree->focusedNode();
+    if (isBillNode(bill))
+        BillChanges(m_workbench, m_scratch, m_kind, this).cancel(billKeyOf(bill));
+}
+
+void BillPage::cancelRecord()
+{
+    if (!confirmed(this, QString::fromUtf8(m_kind.cancelRecordQuestion)))
+        return;
+    const bool isLastRecord = m_rows->recordCount() == 1;
+    const TdxTreeListNode bill = m_ui->tree->focusedNode();
+    const TdxTreeListNode row = m_ui->grid->focusedNode();
+    if (!isBillNode(bill) || !row)
+        return;
+    BillChanges(m_workbench, m_scratch, m_kind, this)
+        .takeOut(billKeyOf(bill), toolkit::RecordColumns(*m_ui->grid).key(row), isLastRecord,
+                 [this] { changeNode(m_ui->tree->focusedNode()); });
+}
+
+void BillPage::addRecords()
+{
+    const TdxTreeListNode bill = m_ui->tree->focusedNode();
+    if (!m_ui->grid->focusedNode() || !isBillNode(bill)) // an empty bill cannot be extended from here
+        return;
+    {
+        TfrmAddBill dialog(billKeyOf(bill), window());
+        dialog.ShowModal();
+    }
+    m_workbench.reload.unbilledTree();
+    m_workbench.reload.candidates();
+    changeNode(m_ui->tree->focusedNode());
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The pages "上报制单" and "退单制单": one mechanism, two sets of names.
+// The pages "上报制单" and "退单制单": one mechanism, two kinds.
 #pragma once
+
+#include "uMain/billpagekinds.h"
 
 #include <QWidget>
 
@@ -8,53 +10,29 @@
 #include <string>
 #include <vector>
 
+class QMenu;
 class TClientDataSet;
+class TdxTreeListNode;
 class Workbench;
 
 namespace Ui {
 class BillPage;
 }
 
-/// Component names of one of the two pages.
-struct BillPageNames {
-    const char *page;
-    const char *tree;
-    const char *treeColumn;
-    const char *grid;
-    const char *interfaceColumn; ///< behind the grid's name
-    const char *captionPanel;
-    const char *caption;
-    const char *dataSet;
-    const char *count;
-    const char *totalFee;
-    const char *canFreeFee;
-    const char *totalsPanel;
-    const char *cancelButton;
-    const char *uploadButton;
-    const char *addButton;
-    const char *exitButton;
-    int cancelTag; ///< function numbers, see uMain/rights.h
-    int addTag;
-    const char *menu;
-    const char *reportItem;
-    int reportTag;
-    const char *cancelItem;
-    const char *uploadItem;
-};
-
-extern const BillPageNames ReportedPageNames;
-extern const BillPageNames ReturnedPageNames;
-
 /// On the left the bills of the user's institution, on the right the records of the chosen one.
 class BillPage : public QWidget {
     Q_OBJECT
 
 public:
-    BillPage(Workbench &workbench, const BillPageNames &names, QWidget *parent = nullptr);
+    /// `scratch` is the form's data set for single questions to the database; borrowed.
+    BillPage(Workbench &workbench, TClientDataSet &scratch, const BillPageKind &kind, QWidget *parent = nullptr);
     ~BillPage() override;
 
     /// Loads the page and dresses it; part of the form's start-up.
     void start();
+
+    /// Rebuilds the tree; the grid and the totals are empty afterwards.
+    void loadBillTree();
 
 Q_SIGNALS:
     void exitRequested();
@@ -62,10 +40,21 @@ Q_SIGNALS:
 private:
     void applyNames();
     void setUpGrid();
+    void setUpMenu();
+    void connectHandlers();
+    void changeNode(const TdxTreeListNode &node);
+    void loadRecords(const TdxTreeListNode &bill);
+
+    void reportBill();
+    void cancelBill();
+    void cancelRecord();
+    void addRecords();
 
     std::unique_ptr<Ui::BillPage> m_ui;
     Workbench &m_workbench;
-    const BillPageNames &m_names;
+    TClientDataSet &m_scratch;
+    const BillPageKind &m_kind;
     std::vector<std::string> m_columnNames; // what the columns' definitions point to
-    TClientDataSet *m_bills;
+    TClientDataSet *m_rows; // the bills while the tree is built, then the records of the chosen bill
+    QMenu *m_billMenu = nullptr;
 };

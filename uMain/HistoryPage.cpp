@@ -2,12 +2,20 @@
 #include "uMain/HistoryPage.h"
 
 #include "data/captions.h"
+#include "data/statements/history.h"
 #include "host/clientdataset.h"
+#include "host/parameters.h"
+#include "toolkit/TreeListUpdate.h"
+#include "toolkit/guard.h"
+#include "toolkit/hostformats.h"
+#include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
+#include "uDjOld/TfrmDjOld.h"
+#include "uMain/billtrees.h"
 #include "uMain/columns.h"
-#include "uMain/formats.h"
 #include "uMain/menus.h"
 #include "uMain/trees.h"
+#include "uMain/workbench.h"
 #include "ui_HistoryPage.h"
 
 #include <QMenu>
@@ -27,12 +35,71 @@ HistoryPage::HistoryPage(Workbench &workbench, QWidget *parent)
     m_ui->splitterOld->setStretchFactor(1, 1);
     m_ui->dxTLOldBill->setPopupMenu(createMenu(
         this, "pMPrint", {{"mJxP", "补打出院结算表"}, {"mCheckP", "补打审批表"}, {"mFeeDetail", "补打费用清单"}}));
+    toolkit::connectGuarded(m_ui->dxTLOldOrg, &TdxTreeList::changeNode, this,
+                            [this](const TdxTreeListNode &node) { dxTLOldOrgChangeNode(node); });
+    toolkit::connectGuarded(m_ui->dxTLOldBill, &TdxTreeList::dblClick, this, [this] { dxTLOldBillDblClick(); });
+    m_workbench.reload.history = [this] { LoadOldBills(); };
 }
 
 HistoryPage::~HistoryPage() = default;
 
+void HistoryPage::LoadOldBills()
+{
+    host::FuncStorageProxy &parameters = m_workbench.host().FuncStorage;
+    const auto orgCode = [&] { return parameters.CustomParam(host::parameter::OrgCode).toString(); };
+    (void)orgCode(); // asked once for each half of the statement
+    m_workbench.LoadDataSet(data::historyBills(orgCode()), *CDSOld);
+    rebuildBillTree(*m_ui->dxTLOldOrg, *CDSOld, [this](TdxTreeListNode &bill) {
+        const QString status = CDSOld->text(QStringLiteral("CheckStatus"));
+        bill.setValue(billnode::Text, data::historyBillCaption(CDSOld->text(QStringLiteral("WriteDate")), status));
+        bill.setValue(billnode::Fee, CDSOld->text(QStringLiteral("Fee")));
+        bill.setValue(billnode::CanFreeFee, CDSOld->text(QStringLiteral("CanFreeFee")));
+        bill.setValue(billnode::CheckFee1, CDSOld->text(QStringLiteral("CheckFee1")));
+        bill.setValue(billnode::CheckFee, CDSOld->text(QStringLiteral("CheckFee")));
+        bill.setValue(billnode::Type, CDSOld->text(QStringLiteral("Type")));
+        bill.setValue(billnode::CheckStatus, status);
+    });
+    dxTLOldOrgChangeNode(m_ui->dxTLOldOrg->topNode());
+}
+
+void HistoryPage::dxTLOldOrgChangeNode(const TdxTreeListNode &node)
+{
+    TdxTreeList &grid = *m_ui->dxTLOldBill;
+    m_ui->edtOldNum->clear();
+    for (TdxCurrencyEdit *edit : {m_ui->dxCEOldTotal, m_ui->dxCEOldCan, m_ui->dxCEOldOne, m_ui->dxCEOldTwo})
+        edit->setValue(0);
+    const TreeListUpdate update(grid);
+    grid.clearNodes();
+    if (!node) {
+        grid.setPopupMenu(nullptr); // for as long as the form lives: nothing attaches it again
+        return;
+    }
+    if (!isBillNode(node))
+        return;
+    m_workbench.LoadDataSet(data::historyRecords(node.text(billnode::Type), billKeyOf(node)), *CDSOld);
+    grid.addRows(CDSOld->packet());
+    m_ui->edtOldNum->setText(QString::number(grid.count()));
+    // The bill's stored amounts, even where its records would sum differently.
+    m_ui->dxCEOldTotal->setValue(node.text(billnode::Fee));
+    m_ui->dxCEOldCan->setValue(node.text(billnode::CanFreeFee));
+    m_ui->dxCEOldOne->setValue(node.text(billnode::CheckFee1));
+    m_ui->dxCEOldTwo->setValue(node.text(billnode::CheckFee));
+}
+
+void HistoryPage::dxTLOldBillDblClick()
+{
+    const TdxTreeListNode row = m_ui->dxTLOldBill->focusedNode();
+    const TdxTreeListNode bill = m_ui->dxTLOldOrg->focusedNode();
+    if (!row || !bill)
+        return;
+    showHistoryDetail({toolkit::RecordColumns(*m_ui->dxTLOldBill).key(row), bill.text(billnode::Type),
+                       bill.text(billnode::CheckStatus)},
+                      window());
+}
+
 void HistoryPage::start()
 {
+    LoadOldBills();
     m_ui->Panel31->setCaption(m_ui->LbOld, data::reimbursementTitle());
     applyBackground(*m_ui->dxTLOldOrg);
     m_ui->dxTLOldOrg->setCustomDrawCell(toolkit::organisationTreeDrawing());

@@ -7,6 +7,7 @@
 #include <memory>
 
 class TClientDataSet;
+class TdxTreeListNode;
 class Workbench;
 
 namespace Ui {
@@ -24,7 +25,13 @@ public:
     /// Loads the page and dresses it; part of the form's start-up.
     void start();
 
+    /// Rebuilds the tree; the grid and the totals are empty afterwards.
+    void LoadOldBills();
+
 private:
+    void dxTLOldOrgChangeNode(const TdxTreeListNode &node);
+    void dxTLOldBillDblClick();
+
     std::unique_ptr<Ui::HistoryPage> m_ui;
     Workbench &m_workbench;
     TClientDataSet *CDSOld;

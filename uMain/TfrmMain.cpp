@@ -7,11 +7,11 @@
 #include "host/parameters.h"
 #include "toolkit/displayformat.h"
 #include "toolkit/guard.h"
+#include "toolkit/hostformats.h"
 #include "uMain/BillMakingPage.h"
 #include "uMain/BillPage.h"
 #include "uMain/HistoryPage.h"
 #include "uMain/UnbilledPage.h"
-#include "uMain/formats.h"
 #include "uMain/rights.h"
 
 #include <QShowEvent>
@@ -30,8 +30,8 @@ TfrmMain::TfrmMain(QWidget *parent)
     , PageControl1(new QTabWidget(this))
     , m_unbilled(new UnbilledPage(m_workbench))
     , m_billMaking(new BillMakingPage(m_workbench, *CDSTmp))
-    , m_reported(new BillPage(m_workbench, ReportedPageNames))
-    , m_returned(new BillPage(m_workbench, ReturnedPageNames))
+    , m_reported(new BillPage(m_workbench, *CDSTmp, ReportedBills))
+    , m_returned(new BillPage(m_workbench, *CDSTmp, ReturnedBills))
     , m_history(new HistoryPage(m_workbench))
 {
     setObjectName(QStringLiteral("frmMain"));

@@ -2,16 +2,40 @@
 #include "uMain/UnbilledPage.h"
 
 #include "data/captions.h"
+#include "data/statements/unbilled.h"
 #include "host/clientdataset.h"
 #include "host/rightsscope.h"
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/guard.h"
+#include "toolkit/hostformats.h"
+#include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
+#include "uDjDetail/TfrmDjDetail.h"
 #include "uMain/columns.h"
-#include "uMain/formats.h"
 #include "uMain/trees.h"
 #include "uMain/workbench.h"
 #include "ui_UnbilledPage.h"
+
+namespace {
+
+constexpr toolkit::WindowsColour AdmittedToday = toolkit::windowsColour(0x5E, 0xCB, 0x4E);
+constexpr toolkit::WindowsColour DischargedToday = toolkit::windowsColour(0xFF, 0x80, 0x00);
+
+/// Like a bill list, but today's admissions and discharges win over the focus, and a discharge over an admission.
+toolkit::CellDrawing unbilledDrawing(const TdxTreeList &grid)
+{
+    return [rows = toolkit::billListDrawing(), admitted = toolkit::columnPosition(grid, "IfInToday"),
+            discharged = toolkit::columnPosition(grid, "IfOutToday")](
+               const TdxTreeListNode &node, const TdxTreeListColumn &column, bool focused, toolkit::CellStyle &style) {
+        rows(node, column, focused, style);
+        if (toolkit::isTicked(node, admitted))
+            style.background = AdmittedToday;
+        if (toolkit::isTicked(node, discharged))
+            style.background = DischargedToday;
+    };
+}
+
+} // namespace
 
 UnbilledPage::UnbilledPage(Workbench &workbench, QWidget *parent)
     : QWidget(parent)
@@ -25,10 +49,14 @@ UnbilledPage::UnbilledPage(Workbench &workbench, QWidget *parent)
     setUpTree(*m_ui->dxTLDjOrgInfo, "dxTLDjOrgInfoName", "医疗机构");
     m_ui->dxTLBxDjDetail->setColumns(unbilledColumns());
     m_ui->dxTLBxDjDetail->setFooterVisible(true);
+    m_ui->dxTLBxDjDetail->setCustomDrawCell(unbilledDrawing(*m_ui->dxTLBxDjDetail));
+    m_ui->dxTLBxDjDetail->columnByName(QStringLiteral("dxTLBxDjDetailID"))
+        ->setCustomDrawCell(toolkit::rowNumberDrawing());
     m_ui->splitterDj->setStretchFactor(1, 1);
 
     toolkit::connectGuarded(m_ui->dxTLDjOrgInfo, &TdxTreeList::changeNode, this,
                             [this](const TdxTreeListNode &node) { dxTLDjOrgInfoChangeNode(node); });
+    toolkit::connectGuarded(m_ui->dxTLBxDjDetail, &TdxTreeList::dblClick, this, [this] { dxTLBxDjDetailDblClick(); });
     m_workbench.reload.unbilledTree = [this] { loadInstitutionTree(); };
 }
 
@@ -68,5 +96,34 @@ void UnbilledPage::loadInstitutionTree()
 
 void UnbilledPage::dxTLDjOrgInfoChangeNode(const TdxTreeListNode &node)
 {
-    m_selectedOrgCode = node ? node.text(1) : m_selectedOrgCode;
+    TdxTreeList &grid = *m_ui->dxTLBxDjDetail;
+    if (!node) {
+        const TreeListUpdate update(grid);
+        grid.clearNodes();
+        showFooter();
+        return;
+    }
+    m_selectedOrgCode = node.text(1);
+    m_workbench.LoadDataSet(data::unbilledRecords(m_selectedOrgCode), *CDSBxDj);
+    const TreeListUpdate update(grid);
+    grid.clearNodes();
+    grid.addRows(CDSBxDj->packet());
+    showFooter();
+}
+
+void UnbilledPage::showFooter()
+{
+    TdxTreeList &grid = *m_ui->dxTLBxDjDetail;
+    grid.setFooterText(toolkit::columnPosition(grid, "Coop"), QStringLiteral("共 %1 人次").arg(grid.count()));
+}
+
+void UnbilledPage::dxTLBxDjDetailDblClick()
+{
+    const TdxTreeListNode row = m_ui->dxTLBxDjDetail->focusedNode();
+    if (!row)
+        return;
+    const auto value = [&](const char *suffix) {
+        return row.text(toolkit::columnPosition(*m_ui->dxTLBxDjDetail, suffix));
+    };
+    showFeeDetail({m_selectedOrgCode, value("Coop"), value("IDNo"), value("DiagNo")}, window());
 }

@@ -30,9 +30,11 @@ public:
 
 private:
     void dxTLDjOrgInfoChangeNode(const TdxTreeListNode &node);
+    void dxTLBxDjDetailDblClick();
+    void showFooter();
 
     std::unique_ptr<Ui::UnbilledPage> m_ui;
     Workbench &m_workbench;
     TClientDataSet *CDSBxDj;
-    QString m_selectedOrgCode;
+    QString m_selectedOrgCode; ///< of the tree node chosen last
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "uMain/formats.h"
+#include "toolkit/hostformats.h"
 
 #include "host/parameters.h"
 #include "host/references.h"

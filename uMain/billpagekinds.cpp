@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The component names of the two bill pages.
-#include "uMain/BillPage.h"
+// The reported and the returned bills' page, side by side.
+#include "uMain/billpagekinds.h"
 
-const BillPageNames ReportedPageNames = {
+const BillPageKind ReportedBills = {
+    .spelling = data::ReportedPage,
+    .ownTree = &Workbench::Reloads::reportedBills,
+    .billsCarryFees = false,
+    .cancelRecordQuestion = "您确认对当前记录进行取消制单操作吗？",
     .page = "tbUp",
     .tree = "dxTLUpOrgInfo",
     .treeColumn = "dxTLUpOrgInfoName",
@@ -28,7 +32,11 @@ const BillPageNames ReportedPageNames = {
     .uploadItem = "N1",
 };
 
-const BillPageNames ReturnedPageNames = {
+const BillPageKind ReturnedBills = {
+    .spelling = data::ReturnedPage,
+    .ownTree = &Workbench::Reloads::returnedBills,
+    .billsCarryFees = true,
+    .cancelRecordQuestion = "确认对当前记录进行取消制单操作吗？",
     .page = "tbBack",
     .tree = "dxTLBackOrg",
     .treeColumn = "dxTLBackOrgInfo",

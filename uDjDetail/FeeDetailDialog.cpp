@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "uDjDetail/FeeDetailDialog.h"
+
+#include "host/clientdataset.h"
+#include "host/loaddataset.h"
+#include "host/references.h"
+#include "toolkit/TreeListUpdate.h"
+#include "toolkit/guard.h"
+#include "toolkit/hostformats.h"
+#include "toolkit/rowdrawing.h"
+#include "uDjDetail/columns.h"
+
+#include <QRadioButton>
+
+FeeDetailDialog::FeeDetailDialog(QWidget *parent)
+    : QDialog(parent)
+    , CDSFeeType(new TClientDataSet(this))
+    , CDSFeeInfo(new TClientDataSet(this))
+{
+    CDSFeeType->setObjectName(QStringLiteral("CDSFeeType"));
+    CDSFeeInfo->setObjectName(QStringLiteral("CDSFeeInfo"));
+}
+
+void FeeDetailDialog::takeGrids(TdxTreeList &feeTypes, TdxTreeList &feeItems)
+{
+    m_feeTypes = &feeTypes;
+    m_feeItems = &feeItems;
+    m_feeTypes->setColumns(feeTypeColumns());
+    m_feeTypes->setCustomDrawCell(toolkit::billListDrawing());
+    toolkit::connectGuarded(m_feeTypes, &TdxTreeList::changeNode, this, [this] {
+        if (m_localChoice->isChecked())
+            fillFeeItems();
+    });
+}
+
+void FeeDetailDialog::takeChoice(QRadioButton &choice)
+{
+    toolkit::connectGuarded(&choice, &QRadioButton::toggled, this, [this](bool taken) {
+        if (taken)
+            fillFeeItems();
+    });
+}
+
+void FeeDetailDialog::takeLocalChoice(QRadioButton &choice)
+{
+    m_localChoice = &choice;
+    takeChoice(choice);
+}
+
+void FeeDetailDialog::ShowModal()
+{
+    FormShow();
+    exec();
+}
+
+void FeeDetailDialog::FormShow()
+{
+    applyBackground(*m_feeTypes);
+    applyBackground(*m_feeItems);
+    host::loadDataSet(host::shared().DataCtl, feeTypeStatement(), *CDSFeeType);
+    fillFeeTypes();
+    host::loadDataSet(host::shared().DataCtl, feeItemStatement(), *CDSFeeInfo);
+    fillFeeItems();
+    loaded();
+}
+
+void FeeDetailDialog::fillFeeTypes()
+{
+    const TreeListUpdate update(*m_feeTypes);
+    m_feeTypes->clearNodes();
+    for (; !CDSFeeType->eof(); CDSFeeType->next()) {
+        TdxTreeListNode row = m_feeTypes->addNode();
+        row.setValue(0, CDSFeeType->text(QStringLiteral("FeeTypeName")));
+        row.setValue(1, CDSFeeType->number(QStringLiteral("Fee")));
+        row.setValue(FeeTypeCodePosition, CDSFeeType->text(QStringLiteral("FeeTypeCode")));
+    }
+}
+
+void FeeDetailDialog::fillFeeItems()
+{
+    const TreeListUpdate update(*m_feeItems);
+    m_feeItems->clearNodes();
+    CDSFeeInfo->setFiltered(false);
+    CDSFeeInfo->setFilter(itemFilter());
+    CDSFeeInfo->setFiltered(true);
+    for (; !CDSFeeInfo->eof(); CDSFeeInfo->next())
+        m_feeItems->addRow(CDSFeeInfo->packet(), CDSFeeInfo->packetRow());
+}
+
+QString FeeDetailDialog::focusedFeeTypeCode() const
+{
+    const TdxTreeListNode row = m_feeTypes->focusedNode();
+    return row ? row.text(FeeTypeCodePosition) : QString();
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// What the fee detail dialogs of current and of historical records have in common.
+#pragma once
+
+#include "toolkit/celldrawing.h"
+
+#include <QDialog>
+#include <QString>
+
+#include <memory>
+#include <utility>
+
+class QRadioButton;
+class TClientDataSet;
+class TdxTreeList;
+
+/// On the left a record's fees by type, on the right its items, filtered in place: nothing is asked of the database
+/// after the dialog has opened. Shared host objects are used.
+class FeeDetailDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit FeeDetailDialog(QWidget *parent);
+
+    /// Loads both lists, shows the dialog and returns when it is closed. A failing query reaches the caller, and the
+    /// dialog is not shown.
+    void ShowModal();
+
+protected:
+    /// Borrowed from the derived dialog's form; call once, after its set-up.
+    void takeGrids(TdxTreeList &feeTypes, TdxTreeList &feeItems);
+    /// Refills the items whenever this choice is taken.
+    void takeChoice(QRadioButton &choice);
+    /// The choice that shows the items of the focused fee type.
+    void takeLocalChoice(QRadioButton &choice);
+
+    [[nodiscard]] virtual QString feeTypeStatement() const = 0;
+    [[nodiscard]] virtual QString feeItemStatement() const = 0;
+    /// Condition on the loaded items by the choice taken; empty for all.
+    [[nodiscard]] virtual QString itemFilter() const = 0;
+    /// Called at the end of loading.
+    virtual void loaded() { }
+
+    /// Code of the focused fee type; empty when none is focused.
+    [[nodiscard]] QString focusedFeeTypeCode() const;
+
+private:
+    void FormShow();
+    void fillFeeTypes();
+    void fillFeeItems();
+
+    TdxTreeList *m_feeTypes = nullptr;
+    TdxTreeList *m_feeItems = nullptr;
+    QRadioButton *m_localChoice = nullptr;
+    TClientDataSet *CDSFeeType;
+    TClientDataSet *CDSFeeInfo;
+};
+
+/// Shows a modal dialog of which one instance exists at a time: `instance` is the unit's reference to it, empty before
+/// and after, however the dialog ends.
+template <typename Dialog, typename... Arguments>
+void showSingleInstance(std::unique_ptr<Dialog> &instance, Arguments &&...arguments)
+{
+    struct Freed {
+        std::unique_ptr<Dialog> &instance;
+        ~Freed() { instance.reset(); }
+    };
+    if (!instance)
+        instance = std::make_unique<Dialog>(std::forward<Arguments>(arguments)...);
+    const Freed freed{instance};
+    instance->ShowModal();
+}
