@@ -20,12 +20,13 @@ public:
     [[nodiscard]] int position() const noexcept { return m_position; } ///< from 0; moves with no user action
     [[nodiscard]] QString caption() const;
     [[nodiscard]] QString field() const; ///< empty when no row fills it
-    [[nodiscard]] bool isEditable() const noexcept;
+    [[nodiscard]] bool isEditable() const noexcept { return m_definition.editable; }
     [[nodiscard]] Qt::Alignment alignment() const noexcept;
     [[nodiscard]] bool isVisible() const noexcept;
     void setVisible(bool visible);
 
-    /// Asked for every painted cell of this column, after the list's own drawing. May change the text shown.
+    /// Asked for every painted cell of this column, after the list's own drawing. May change the text shown, which
+    /// is also what is read out, copied and measured.
     void setCustomDrawCell(toolkit::CellDrawing drawing);
     [[nodiscard]] const toolkit::CellDrawing &customDrawCell() const noexcept { return m_drawing; }
 

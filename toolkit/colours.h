@@ -13,7 +13,7 @@ namespace toolkit {
 using WindowsColour = std::uint32_t;
 
 inline constexpr WindowsColour NoColour = 0x1FFFFFFF;
-inline constexpr WindowsColour WindowColour = 0xFF000005;     ///< background of a list or an edit
+inline constexpr WindowsColour WindowColour = 0xFF000005; ///< background of a list or an edit
 inline constexpr WindowsColour WindowTextColour = 0xFF000008; ///< text on it
 
 [[nodiscard]] constexpr WindowsColour windowsColour(std::uint8_t red, std::uint8_t green, std::uint8_t blue)

@@ -14,8 +14,7 @@
 namespace toolkit {
 
 /// Runs `action`; returns whether it ended without an error.
-template <typename Action>
-bool guarded(Action &&action) noexcept
+template <typename Action> bool guarded(Action &&action) noexcept
 {
     try {
         std::forward<Action>(action)();
@@ -28,17 +27,21 @@ bool guarded(Action &&action) noexcept
     return false;
 }
 
+/// Calls `handler` with the signal's arguments, or with none when it takes none.
+template <typename Handler, typename... Arguments> void callHandler(const Handler &handler, Arguments &&...arguments)
+{
+    if constexpr (std::is_invocable_v<const Handler &, Arguments...>)
+        handler(std::forward<Arguments>(arguments)...);
+    else
+        handler();
+}
+
 /// Connects a signal to a handler that runs guarded. `handler` takes the signal's arguments or none.
 template <typename Sender, typename Signal, typename Handler>
 QMetaObject::Connection connectGuarded(const Sender *sender, Signal signal, const QObject *context, Handler handler)
 {
     return QObject::connect(sender, signal, context, [handler = std::move(handler)](auto &&...arguments) {
-        guarded([&] {
-            if constexpr (std::is_invocable_v<const Handler &, decltype(arguments)...>)
-                handler(std::forward<decltype(arguments)>(arguments)...);
-            else
-                handler();
-        });
+        guarded([&] { callHandler(handler, std::forward<decltype(arguments)>(arguments)...); });
     });
 }
 

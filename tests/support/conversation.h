@@ -22,7 +22,7 @@ public:
 
     [[nodiscard]] const QStringList &lines() const { return m_lines; }
     /// The lines since the last call of this.
-    [[nodiscard]] QStringList take();
+    QStringList take();
 
     void answerYes() { m_answers.push_back(true); }
     void answerNo() { m_answers.push_back(false); }

@@ -72,7 +72,7 @@ Desk::Desk(const Options &options)
         if (!setup.open(QIODevice::WriteOnly) || setup.write(options.setupFile->toUtf8()) < 0)
             throw std::runtime_error("cannot write setup.ini");
     }
-    setExecutableFolder(m_folder.path());
+    common::setExecutableFolder(m_folder.path());
     toolkit::setClock([today = options.today] { return today; });
     automation::setErrorDisplay([this](const QString &message) { m_errors.append(message); });
 
@@ -89,7 +89,7 @@ Desk::~Desk()
     }
     automation::setErrorDisplay({});
     toolkit::setClock({});
-    setExecutableFolder({});
+    common::setExecutableFolder({});
 }
 
 QWidget &Desk::open()

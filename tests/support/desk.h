@@ -36,7 +36,7 @@ public:
 
     /// Creates the form and shows it.
     QWidget &open();
-    [[nodiscard]] QWidget &form() { return *m_form; }
+    [[nodiscard]] QWidget &form() const { return *m_form; }
 
     [[nodiscard]] Conversation &conversation() { return m_conversation; }
     [[nodiscard]] FailingEngine &engine() { return *m_engine; }

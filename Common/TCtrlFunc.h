@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// The utility class: texts, setup file, registry, clock.
+#pragma once
+
+#include <QString>
+
+/// Small stateless helpers; every method works on its arguments only.
+class TCtrlFunc {
+public:
+    /// A value of a setup file beside the executable; empty when file, section or key are missing. Nothing is created.
+    [[nodiscard]] QString ReadIniStr(const QString &fileName, const QString &section, const QString &key) const;
+    /// Throws common::IniError when the file cannot be written or a name or the value does not fit in it.
+    void WriteIniStr(const QString &fileName, const QString &section, const QString &key, const QString &value) const;
+
+    /// The part before the first separator (`before`), or the part after it; see common::splitString().
+    [[nodiscard]] QString SplitString(const QString &source, const QString &separator, bool before) const;
+    [[nodiscard]] int SplitItemCount(const QString &source, const QString &separator) const;
+    /// The trimmed item at a position from 0; an empty source comes back as it is.
+    [[nodiscard]] QString GetAllSplitStr(const QString &source, const QString &separator, int index) const;
+
+    /// A value of the current user's registry; empty when it is missing.
+    [[nodiscard]] QString GetRegKeyValue(const QString &keyPath, const QString &valueName) const;
+    /// The current moment as 17 digits, from the year to the millisecond.
+    [[nodiscard]] QString GetSysTime() const;
+};

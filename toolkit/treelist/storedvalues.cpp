@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// Values by node: one byte each for the common ones.
+#include "toolkit/treelist/storedvalues.h"
+
+namespace toolkit::treelist {
+
+const QVariant &StoredValues::value(int node) const
+{
+    const Code code = m_codes[static_cast<std::size_t>(node)];
+    return code == Own ? m_own.at(node) : shared(code).value;
+}
+
+QString StoredValues::text(int node) const
+{
+    const Code code = m_codes[static_cast<std::size_t>(node)];
+    return code == Own ? m_own.at(node).toString() : shared(code).text;
+}
+
+std::string_view StoredValues::utf8(int node, std::string &scratch) const
+{
+    const Code code = m_codes[static_cast<std::size_t>(node)];
+    if (code != Own)
+        return shared(code).utf8;
+    scratch = m_own.at(node).toString().toStdString();
+    return scratch;
+}
+
+void StoredValues::set(int node, const QVariant &value)
+{
+    const auto at = static_cast<std::size_t>(node);
+    if (at >= m_codes.size())
+        m_codes.resize(at + 1, Unset);
+    const Code code = codeFor(value);
+    if (code == Own)
+        m_own.insert_or_assign(node, value);
+    else if (m_codes[at] == Own)
+        m_own.erase(node);
+    m_codes[at] = code;
+}
+
+void StoredValues::setAll(int count, const QVariant &value)
+{
+    m_own.clear();
+    m_shared.clear();
+    m_codes.assign(static_cast<std::size_t>(count), codeFor(value));
+}
+
+StoredValues::Code StoredValues::codeFor(const QVariant &value)
+{
+    // The integer 2 and the text "2" are different values with the same text: the type has to be equal as well.
+    for (std::size_t i = 0; i < m_shared.size(); ++i) {
+        if (m_shared[i].value.metaType() == value.metaType() && m_shared[i].value == value)
+            return static_cast<Code>(i + 1);
+    }
+    if (m_shared.size() == MostShared)
+        return Own;
+    const QString text = value.toString();
+    m_shared.push_back({value, text, text.toStdString()});
+    return static_cast<Code>(m_shared.size());
+}
+
+} // namespace toolkit::treelist

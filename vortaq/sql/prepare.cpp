@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// Parses, checks what is due, binds.
+#include "vortaq/sql/prepare.h"
+
+#include "vortaq/sql/binder.h"
+#include "vortaq/sql/diagnostic.h"
+#include "vortaq/sql/parser.h"
+
+namespace vortaq::sql {
+
+Statement prepare(std::string_view text, const Catalog &catalog, Due due)
+{
+    const ast::Tree tree = parse(text);
+    if (due == Due::Query && !tree.isQuery())
+        throw SqlError(SqlError::Reason::Syntax, "此处只能执行查询语句");
+    if (due == Due::Change && tree.isQuery())
+        throw SqlError(SqlError::Reason::Syntax, "此处不能执行查询语句");
+    return bind(tree, text, catalog);
+}
+
+} // namespace vortaq::sql
