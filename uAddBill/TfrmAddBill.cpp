@@ -48,6 +48,8 @@ TfrmAddBill::~TfrmAddBill() = default;
 void TfrmAddBill::ShowModal()
 {
     FormShow();
+    if (parentWidget() != nullptr)
+        setFixedSize(parentWidget()->window()->size() * 9 / 10); // its border is not for dragging
     exec();
 }
 

@@ -50,6 +50,8 @@ void FeeDetailDialog::takeLocalChoice(QRadioButton &choice)
 void FeeDetailDialog::ShowModal()
 {
     FormShow();
+    if (parentWidget() != nullptr)
+        resize(parentWidget()->window()->size() * 9 / 10);
     exec();
 }
 

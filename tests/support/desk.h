@@ -22,7 +22,7 @@ public:
         QString user = QStringLiteral("01");
         std::optional<QString> setupFile = QStringLiteral("[system]\r\nconnStyle=1\r\n"); ///< none: no file
         std::vector<vortaq::ParameterOverride> parameters = {};
-        QDate today = QDate(2026, 3, 9);
+        QDate today = QDate(2026, 3, 9); ///< on the module's calendar and in the database
     };
 
     Desk()

@@ -65,8 +65,11 @@ void createSmallHospital(const QString &file)
     sqlite3 *database = nullptr;
     if (sqlite3_open(file.toUtf8().constData(), &database) != SQLITE_OK)
         throw std::runtime_error("cannot create the database");
+    run(database, "pragma synchronous=off");
+    run(database, "begin");
     for (const std::string &statement : vortaq::schemaStatements())
         run(database, statement);
     run(database, Rows);
+    run(database, "commit");
     sqlite3_close(database);
 }

@@ -70,7 +70,7 @@ void ColumnFit::refit(int column)
     const char *widest = m_columns[at]->definition().widest;
     const int sample = widest == nullptr
         ? rowsWidth(column)
-        : m_view.fontMetrics().horizontalAdvance(QString::fromUtf8(widest)) + 2 * textMargin(m_view) + 1;
+        : textWidth(QString::fromUtf8(widest));
     setWidth(column, std::max(m_header.sectionSizeHint(column), std::min(sample, wide)));
 }
 
@@ -115,12 +115,18 @@ int ColumnFit::treeWidth(int column) const
     }
 }
 
+int ColumnFit::textWidth(const QString &text) const
+{
+    // Rounded up and a line's width more: a text a fraction of a pixel too wide is cut like any other.
+    return m_view.fontMetrics().horizontalAdvance(text) + 2 * textMargin(m_view) + 2;
+}
+
 int ColumnFit::cellWidth(int node, int column) const
 {
     if (m_columns[static_cast<std::size_t>(column)]->definition().kind == ColumnKind::Check)
         return checkBoxSize(m_view).width() + 2 * textMargin(m_view) + 1;
     const QString text = m_model.data(m_model.indexOf(node, column), Qt::AccessibleTextRole).toString();
-    return m_view.fontMetrics().horizontalAdvance(text) + 2 * textMargin(m_view) + 1;
+    return textWidth(text);
 }
 
 int ColumnFit::rowsWidth(int column) const

@@ -2,6 +2,8 @@
 // The widths of columns before a user chooses them.
 #pragma once
 
+#include <QString>
+
 #include <vector>
 
 class QTreeView;
@@ -33,6 +35,7 @@ private:
     /// Widest text of the rows that a first look shows, and of the last row.
     [[nodiscard]] int rowsWidth(int column) const;
     [[nodiscard]] int treeWidth(int column) const;
+    [[nodiscard]] int textWidth(const QString &text) const;
     [[nodiscard]] int cellWidth(int node, int column) const;
     [[nodiscard]] bool numbersRows(int column) const;
     void setWidth(int column, int width);

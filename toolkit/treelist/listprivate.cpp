@@ -157,7 +157,7 @@ void TdxTreeList::Private::focusSilently(int node)
     q->setCurrentIndex(model->indexOf(node, focusColumn));
 }
 
-void TdxTreeList::Private::branchClosed(const QModelIndex &branch)
+void TdxTreeList::Private::branchClosed(const QModelIndex &branch) const
 {
     for (QModelIndex above = q->currentIndex().parent(); above.isValid(); above = above.parent()) {
         if (above == branch) {
@@ -234,7 +234,7 @@ QString TdxTreeList::Private::drawnText(int node, const TdxTreeListColumn &colum
     toolkit::CellStyle style{.background = colour, .text = model->shownText(node, column)};
     if (!column.customDrawCell())
         return style.text;
-    const QString plain = style.text;
+    QString plain = style.text;
     try {
         column.customDrawCell()(handle(node), column, node == focused, style);
         return style.text;
@@ -303,7 +303,7 @@ QModelIndex TdxTreeList::Private::checkForSpace() const
     return {};
 }
 
-void TdxTreeList::Private::toggle(const QModelIndex &index)
+void TdxTreeList::Private::toggle(const QModelIndex &index) const
 {
     auto *column = qobject_cast<TdxTreeListCheckColumn *>(model->columnOf(index));
     const bool ticked = isTicked(store, Model::nodeOf(index), *column);

@@ -46,7 +46,7 @@ public:
     void focusMoved(const QModelIndex &current);
     void focusSilently(int node);
     /// The focus does not stay on a node that nobody sees: commands would act on it.
-    void branchClosed(const QModelIndex &branch);
+    void branchClosed(const QModelIndex &branch) const;
     [[nodiscard]] int firstFocusColumn() const;
 
     // ---- order
@@ -65,7 +65,7 @@ public:
     [[nodiscard]] bool isEditableCheck(const QModelIndex &index) const;
     /// The cell that the space bar toggles: the current one, else the focused row's first; invalid for none.
     [[nodiscard]] QModelIndex checkForSpace() const;
-    void toggle(const QModelIndex &index);
+    void toggle(const QModelIndex &index) const;
     void copyCurrentText() const;
 
     TdxTreeList *q;

@@ -56,7 +56,7 @@ QString Model::shownText(int node, const TdxTreeListColumn &column) const
     const auto *currency = qobject_cast<const TdxTreeListCurrencyColumn *>(&column);
     if (currency == nullptr)
         return m_store.text(node, column.position());
-    const QString text = m_store.text(node, column.position()).trimmed();
+    QString text = m_store.text(node, column.position()).trimmed();
     if (text.isEmpty() || currency->displayFormat().isEmpty())
         return text;
     try {
@@ -81,8 +81,8 @@ void Model::beginInsert(int parent)
 void Model::reorder(std::vector<std::pair<int, std::vector<int>>> orders)
 {
     emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
-    for (auto &[parent, order] : orders)
-        m_store.reorder(parent, std::move(order));
+    for (std::pair<int, std::vector<int>> &change : orders)
+        m_store.reorder(change.first, std::move(change.second));
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     after.reserve(before.size());
