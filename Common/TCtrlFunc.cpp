@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The utility class: texts, setup file, registry, clock.
+// The utility class: texts, setup file, registry, clock, data sources, processes, grids.
 #include "Common/TCtrlFunc.h"
 
+#include "Common/columnwidth.h"
+#include "Common/drawingsurface.h"
 #include "Common/inifile.h"
+#include "Common/processes.h"
+#include "Common/shellopen.h"
 #include "Common/splittext.h"
 #include "Common/systime.h"
 #include "Common/userregistry.h"
@@ -41,4 +45,31 @@ QString TCtrlFunc::GetRegKeyValue(const QString &keyPath, const QString &valueNa
 QString TCtrlFunc::GetSysTime() const
 {
     return common::sysTimeText(QDateTime::currentDateTime());
+}
+
+bool TCtrlFunc::WriteODBC(const common::OdbcSource &source) const
+{
+    return common::writeOdbcSource(source);
+}
+
+int TCtrlFunc::KillTask(const QString &fileName) const
+{
+    return common::killProcesses(fileName);
+}
+
+bool TCtrlFunc::ExeFile(const QString &text, QWidget *owner) const
+{
+    if (owner)
+        owner->window()->raise();
+    return common::openByShell(text);
+}
+
+common::DrawingSurface *TCtrlFunc::DrawNoCanvas(QWidget &control) const
+{
+    return new common::DrawingSurface(control);
+}
+
+void TCtrlFunc::AutoColumnWidth(QTableWidget &grid) const
+{
+    common::fitColumns(grid);
 }

@@ -1,8 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The utility class: texts, setup file, registry, clock.
+// The utility class: texts, setup file, registry, clock, data sources, processes, grids.
 #pragma once
 
+#include "Common/odbcsource.h"
+
 #include <QString>
+
+class QTableWidget;
+class QWidget;
+
+namespace common {
+class DrawingSurface;
+}
 
 /// Small stateless helpers; every method works on its arguments only.
 class TCtrlFunc {
@@ -22,4 +31,16 @@ public:
     [[nodiscard]] QString GetRegKeyValue(const QString &keyPath, const QString &valueName) const;
     /// The current moment as 17 digits, from the year to the millisecond.
     [[nodiscard]] QString GetSysTime() const;
+
+    /// Writes and registers a data source for the current user; see common::writeOdbcSource(). False on failure.
+    [[nodiscard]] bool WriteODBC(const common::OdbcSource &source) const;
+    /// Ends every process of that executable file name; see common::killProcesses().
+    int KillTask(const QString &fileName) const;
+    /// Lets the desktop open a file, an address or a command; see common::openByShell(). The owner's window comes to
+    /// the front, so that what opens next stands before it.
+    [[nodiscard]] bool ExeFile(const QString &text, QWidget *owner) const;
+    /// A surface over the control, which owns it.
+    [[nodiscard]] common::DrawingSurface *DrawNoCanvas(QWidget &control) const;
+    /// Columns as wide as their widest texts, the grid as wide as its columns.
+    void AutoColumnWidth(QTableWidget &grid) const;
 };

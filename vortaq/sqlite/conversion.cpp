@@ -6,6 +6,7 @@
 #include "vortaq/sqlite/decimal.h"
 #include "vortaq/sqlite/functioncall.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
@@ -36,24 +37,18 @@ sql::Type typeNamed(std::string_view name)
     return *type;
 }
 
-/// The rule is the same for all rows, so it is read once a statement.
-const Rule &ruleOf(sqlite3_context *context, sqlite3_value **arguments)
+/// The rule is the same for all rows, so SQLite is given it to keep; it may decline.
+Rule ruleOf(sqlite3_context *context, sqlite3_value **arguments)
 {
     constexpr int slot = 1;
     if (const void *kept = sqlite3_get_auxdata(context, slot))
         return *static_cast<const Rule *>(kept);
-    auto rule = std::make_unique<Rule>();
-    rule->from = typeNamed(textOf(arguments[1]));
-    rule->to = typeNamed(textOf(arguments[2]));
-    const std::string_view mode = textOf(arguments[3]);
-    while (modeNames[static_cast<std::size_t>(rule->mode)] != mode)
-        rule->mode = static_cast<Mode>(static_cast<int>(rule->mode) + 1);
-    sqlite3_set_auxdata(context, slot, rule.release(),
+    const auto mode = std::find(modeNames.begin(), modeNames.end(), textOf(arguments[3]));
+    const Rule rule{typeNamed(textOf(arguments[1])), typeNamed(textOf(arguments[2])),
+                    static_cast<Mode>(mode - modeNames.begin())};
+    sqlite3_set_auxdata(context, slot, std::make_unique<Rule>(rule).release(),
                         [](void *kept) { std::unique_ptr<Rule>(static_cast<Rule *>(kept)).reset(); });
-    const void *kept = sqlite3_get_auxdata(context, slot);
-    if (kept == nullptr)
-        throw std::bad_alloc();
-    return *static_cast<const Rule *>(kept);
+    return rule;
 }
 
 /// Six digits in a text, as T-SQL prints a float; all that count where it becomes another number.
@@ -125,7 +120,7 @@ void returnConverted(sqlite3_context *context, const std::string &text, const sq
 
 void convertValue(sqlite3_context *context, sqlite3_value **arguments)
 {
-    const Rule &rule = ruleOf(context, arguments);
+    const Rule rule = ruleOf(context, arguments);
     const std::string text = writtenValue(arguments[0], rule);
     const sql::Type from = rule.from.kind == Kind::Float ? sql::decimalType(sql::mostDigits, 0) : rule.from;
     const sql::ConvertedText converted = sql::convertText(text, from, rule.to, rule.mode);

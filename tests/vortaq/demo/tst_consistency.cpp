@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Everything in a demo database adds up and refers to something. Each rule is a query for rows that break it; '#'
 // stands for the current and the archive tables in turn, '@' for the same record key in x and d.
-#include "demodatabase.h"
+#include "tests/vortaq/demo/demodatabase.h"
 
 #include <array>
 

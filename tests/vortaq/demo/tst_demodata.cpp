@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The file itself: complete or absent, and the same for the same options.
-#include "demodatabase.h"
+#include "tests/vortaq/demo/demodatabase.h"
 
 #include "vortaq/schema/schema.h"
 #include "vortaq/sqlerror.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a trainer or a test wants to find in the demo hospitals is there.
-#include "demodatabase.h"
+#include "tests/vortaq/demo/demodatabase.h"
 
 #include <array>
 #include <cmath>

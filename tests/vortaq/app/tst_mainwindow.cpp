@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+// Tests of the main window around a module's form.
+#include "tests/vortaq/app/support/hostfixture.h"
+#include "vortaq/app/mainwindow.h"
+#include "vortaq/app/modulelibrary.h"
+
+#include "automation/errordisplay.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace vortaq::test {
+
+class MainWindowTest : public testing::Test {
+protected:
+    explicit MainWindowTest(const QString &module = QStringLiteral(TEST_PLAIN_MODULE))
+        : m_module(module)
+        , m_window(m_host.session, m_module, QStringLiteral("demo.db"), MainWindow::Geometry::Fresh)
+    {
+        automation::setErrorDisplay([this](const QString &message) { m_errors.append(message); });
+        m_window.show();
+        QApplication::processEvents();
+    }
+    ~MainWindowTest() override { automation::setErrorDisplay({}); }
+
+    void trigger(const char *action)
+    {
+        auto *found = m_window.findChild<QAction *>(QString::fromLatin1(action));
+        ASSERT_TRUE(found) << action;
+        found->trigger();
+        QApplication::processEvents();
+    }
+    bool isEnabled(const char *action)
+    {
+        return m_window.findChild<QAction *>(QString::fromLatin1(action))->isEnabled();
+    }
+    [[nodiscard]] bool startPageShown() const
+    {
+        return m_window.findChild<QWidget *>(QStringLiteral("startPage"))->isVisible();
+    }
+    [[nodiscard]] QString label(const char *name) const
+    {
+        return m_window.findChild<QLabel *>(QString::fromLatin1(name))->text();
+    }
+
+    HostFixture m_host;
+    QStringList m_errors;
+    ModuleLibrary m_module;
+    MainWindow m_window;
+};
+
+TEST_F(MainWindowTest, TheMenuComesFromTheModule)
+{
+    EXPECT_EQ(m_window.menuBar()->actions().constFirst()->text(), QStringLiteral("业务管理"));
+    EXPECT_EQ(m_window.findChild<QAction *>(QStringLiteral("openFunctionAction"))->text(), QStringLiteral("制单"));
+    EXPECT_EQ(m_window.findChild<QPushButton *>(QStringLiteral("openFunctionButton"))->text(), QStringLiteral("制单"));
+}
+
+// Alt+S, Alt+B and their like belong to the buttons of the form.
+TEST_F(MainWindowTest, TheMenuBarClaimsNoAltShortcuts)
+{
+    for (const QAction *menu : m_window.menuBar()->actions())
+        EXPECT_FALSE(menu->text().contains(QLatin1Char('&'))) << menu->text().toStdString();
+}
+
+TEST_F(MainWindowTest, TheStatusBarTellsWhoWorksWhere)
+{
+    EXPECT_EQ(label("statusUser"), QStringLiteral("操作员：管理员（01）"));
+    EXPECT_EQ(label("statusDatabase"), QStringLiteral("数据库：demo.db"));
+}
+
+TEST_F(MainWindowTest, BeginsWithTheStartPage)
+{
+    EXPECT_TRUE(startPageShown());
+    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("农合医院业务平台"));
+    EXPECT_FALSE(isEnabled("refreshAction"));
+    EXPECT_FALSE(isEnabled("closeFunctionAction"));
+    EXPECT_EQ(m_module.form(), nullptr);
+}
+
+TEST_F(MainWindowTest, OpeningShowsTheFormOnce)
+{
+    trigger("openFunctionAction");
+    QWidget *form = m_module.form();
+    ASSERT_TRUE(form);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(form->window(), &m_window);
+    EXPECT_EQ(form->property("shown").toInt(), 1);
+    EXPECT_FALSE(startPageShown());
+    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("制单 - 农合医院业务平台"));
+
+    trigger("openFunctionAction");
+    EXPECT_EQ(m_module.form(), form);
+    EXPECT_EQ(form->property("shown").toInt(), 1) << "an open form is not shown again";
+    trigger("refreshAction");
+    EXPECT_EQ(m_errors, QStringList());
+}
+
+TEST_F(MainWindowTest, TheFormsOwnExitReturnsToTheStartPageAndOpeningShowsItAnew)
+{
+    trigger("openFunctionAction");
+    QWidget *form = m_module.form();
+    form->findChild<QPushButton *>(QStringLiteral("btnExit"))->click();
+    QApplication::processEvents();
+    EXPECT_TRUE(startPageShown());
+    EXPECT_EQ(m_module.form(), form) << "the form is kept";
+    EXPECT_TRUE(isEnabled("closeFunctionAction"));
+
+    m_window.findChild<QPushButton *>(QStringLiteral("openFunctionButton"))->click();
+    QApplication::processEvents();
+    EXPECT_EQ(m_module.form(), form);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(form->property("shown").toInt(), 2);
+}
+
+TEST_F(MainWindowTest, ExitAndAtOnceOpenShowsTheForm)
+{
+    trigger("openFunctionAction");
+    m_module.form()->close();
+    m_window.openFunction();
+    QApplication::processEvents();
+    EXPECT_TRUE(m_module.form()->isVisible());
+    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("制单 - 农合医院业务平台"));
+}
+
+TEST_F(MainWindowTest, TheFocusGoesIntoTheForm)
+{
+    trigger("openFunctionAction");
+    const auto *exit = m_module.form()->findChild<QPushButton *>(QStringLiteral("btnExit"));
+    EXPECT_EQ(m_window.focusWidget(), exit);
+    trigger("closeFunctionAction");
+    EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("openFunctionButton"));
+}
+
+TEST_F(MainWindowTest, ClosingByTheMenuFreesTheForm)
+{
+    trigger("openFunctionAction");
+    const QPointer<QWidget> form = m_module.form();
+    trigger("closeFunctionAction");
+    EXPECT_TRUE(form.isNull());
+    EXPECT_TRUE(startPageShown());
+    EXPECT_FALSE(isEnabled("refreshAction"));
+    trigger("openFunctionAction");
+    ASSERT_TRUE(m_module.form());
+    EXPECT_EQ(m_module.form()->property("shown").toInt(), 1);
+}
+
+TEST_F(MainWindowTest, MinimisingAndClosingTheWindowLeaveTheFormOpen)
+{
+    trigger("openFunctionAction");
+    m_window.hide();
+    QApplication::processEvents();
+    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("制单 - 农合医院业务平台"));
+    EXPECT_FALSE(m_module.form()->isHidden());
+}
+
+class FailingModuleTest : public MainWindowTest {
+protected:
+    FailingModuleTest()
+        : MainWindowTest(QStringLiteral(TEST_FAILING_MODULE))
+    {
+    }
+};
+
+TEST_F(FailingModuleTest, AFormThatCannotBeMadeIsAnErrorAndTheStartPageStays)
+{
+    trigger("openFunctionAction");
+    EXPECT_EQ(m_errors, QStringList(QStringLiteral("模块的 CreateModule 失败，错误码 0x8000FFFF。")));
+    EXPECT_TRUE(startPageShown());
+    m_window.refreshFunction();
+    EXPECT_EQ(m_errors.size(), 2);
+}
+
+TEST(MainWindowEnd, TheFormGoesWithTheWindow)
+{
+    const HostFixture host;
+    ModuleLibrary module(QStringLiteral(TEST_PLAIN_MODULE));
+    QPointer<QWidget> form;
+    {
+        MainWindow window(host.session, module, {}, MainWindow::Geometry::Fresh);
+        window.show();
+        window.openFunction();
+        form = module.form();
+        ASSERT_TRUE(form);
+    }
+    EXPECT_TRUE(form.isNull());
+    EXPECT_EQ(module.form(), nullptr);
+}
+
+} // namespace vortaq::test
