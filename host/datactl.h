@@ -30,6 +30,9 @@ public:
     void CommitTran() { m_commitTran(m_object); }
     void RollbackTran() { m_rollbackTran(m_object); }
 
+    /// Runs a procedure call; the result is the value of its output parameter.
+    [[nodiscard]] QVariant ExecProc(const QString &call) { return m_execProc(m_object, {call}); }
+
 private:
     automation::LateBound m_object;
     HostOperation m_openSql{"OpenSql", automation::Kind::Method};
@@ -38,6 +41,7 @@ private:
     HostOperation m_beginTran{"BeginTran", automation::Kind::Method};
     HostOperation m_commitTran{"CommitTran", automation::Kind::Method};
     HostOperation m_rollbackTran{"RollbackTran", automation::Kind::Method};
+    HostOperation m_execProc{"ExecProc", automation::Kind::Method};
 };
 
 } // namespace host

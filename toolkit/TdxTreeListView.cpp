@@ -104,13 +104,11 @@ void TdxTreeList::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
         itemDelegate()->paint(painter, cell, at);
     };
 
-    painter->save();
-    painter->setClipRect(QRect(band, option.rect.top(), right - band, option.rect.height()), Qt::IntersectClip);
     for (int column = header.bandColumns(); column < header.count() && header.cellLeft(column) < right; ++column) {
         if (header.cellLeft(column) + header.sectionSize(column) > band)
             paintColumn(column);
     }
-    painter->restore();
+    // Over whatever of the others reaches below the band.
     for (int column = 0; column < header.bandColumns(); ++column)
         paintColumn(column);
 }

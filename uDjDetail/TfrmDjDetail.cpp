@@ -7,6 +7,7 @@
 #include "toolkit/TdxTreeList.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
+#include "toolkit/singleinstance.h"
 #include "uDjDetail/columns.h"
 #include "ui_TfrmDjDetail.h"
 
@@ -62,7 +63,7 @@ QString TfrmDjDetail::itemFilter() const
 
 void showFeeDetail(const data::RecordKey &record, QWidget *parent)
 {
-    showSingleInstance(frmDjDetail, record, parent);
+    toolkit::showSingleInstance(frmDjDetail, record, parent);
 }
 
 void showFeeDetail(const TdxTreeList &grid)

@@ -10,6 +10,7 @@
 #include "toolkit/guard.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
+#include "toolkit/singleinstance.h"
 #include "uDjOld/columns.h"
 #include "ui_TfrmDjOld.h"
 
@@ -98,5 +99,5 @@ void TfrmDjOld::loaded()
 
 void showHistoryDetail(const HistoryRecord &record, QWidget *parent)
 {
-    showSingleInstance(frmDjOld, record, parent);
+    toolkit::showSingleInstance(frmDjOld, record, parent);
 }

@@ -8,4 +8,4 @@
 
 /// "是否特批" shows as ticked for "True", while the database delivers 1 and 2: the box stays empty, and the row's
 /// colour tells.
-[[nodiscard]] const std::vector<toolkit::ColumnDefinition> &historyItemColumns();
+[[nodiscard]] std::vector<toolkit::ColumnDefinition> historyItemColumns();

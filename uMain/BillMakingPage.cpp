@@ -60,6 +60,13 @@ void BillMakingPage::connectHandlers()
     connectGuarded(m_ui->dxTLUp, &TdxTreeList::dblClick, this, [this] { showFeeDetail(*m_ui->dxTLUp); });
     connectGuarded(findChild<QAction *>(QStringLiteral("mFeeInfo")), &QAction::triggered, this,
                    [this] { showFeeDetail(*m_ui->dxTLUp); });
+    constexpr int currentTables = 1;
+    connectGuarded(m_ui->btnOutFee, &QPushButton::clicked, this,
+                   [this] { m_workbench.print.settlementSheet(*m_ui->dxTLUp, currentTables); });
+    connectGuarded(m_ui->btnFeeGs, &QPushButton::clicked, this,
+                   [this] { m_workbench.print.approvalForm(*m_ui->dxTLUp, currentTables); });
+    connectGuarded(m_ui->btnFeeInfo, &QPushButton::clicked, this,
+                   [this] { m_workbench.print.feeList(*m_ui->dxTLUp, currentTables); });
     connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, [this] { Q_EMIT exitRequested(); });
 }
 

@@ -6,6 +6,7 @@
 #include "host/clientdataset.h"
 #include "host/parameters.h"
 #include "toolkit/TreeListUpdate.h"
+#include "toolkit/displayformat.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
 #include "toolkit/recordcolumns.h"
@@ -38,10 +39,21 @@ HistoryPage::HistoryPage(Workbench &workbench, QWidget *parent)
     toolkit::connectGuarded(m_ui->dxTLOldOrg, &TdxTreeList::changeNode, this,
                             [this](const TdxTreeListNode &node) { dxTLOldOrgChangeNode(node); });
     toolkit::connectGuarded(m_ui->dxTLOldBill, &TdxTreeList::dblClick, this, [this] { dxTLOldBillDblClick(); });
+    connectReprint("mJxP", m_workbench.print.settlementSheet);
+    connectReprint("mCheckP", m_workbench.print.approvalForm);
+    connectReprint("mFeeDetail", m_workbench.print.feeList);
     m_workbench.reload.history = [this] { LoadOldBills(); };
 }
 
 HistoryPage::~HistoryPage() = default;
+
+void HistoryPage::connectReprint(const char *item, const std::function<void(const TdxTreeList &, int)> &document)
+{
+    toolkit::connectGuarded(
+        findChild<QAction *>(QString::fromUtf8(item)), &QAction::triggered, this, [this, &document] {
+            document(*m_ui->dxTLOldBill, toolkit::parseInteger(m_ui->dxTLOldOrg->focusedNode().text(billnode::Type)));
+        });
+}
 
 void HistoryPage::LoadOldBills()
 {

@@ -4,9 +4,11 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class TClientDataSet;
+class TdxTreeList;
 class TdxTreeListNode;
 class Workbench;
 
@@ -31,6 +33,8 @@ public:
 private:
     void dxTLOldOrgChangeNode(const TdxTreeListNode &node);
     void dxTLOldBillDblClick();
+    /// The menu item prints the document of the focused record; it asks the focused tree node for its type.
+    void connectReprint(const char *item, const std::function<void(const TdxTreeList &, int)> &document);
 
     std::unique_ptr<Ui::HistoryPage> m_ui;
     Workbench &m_workbench;

@@ -5,6 +5,7 @@
 #include "data/statements/startup.h"
 #include "host/clientdataset.h"
 #include "host/parameters.h"
+#include "print/PrintedDocuments.h"
 #include "toolkit/displayformat.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
@@ -13,6 +14,7 @@
 #include "uMain/HistoryPage.h"
 #include "uMain/UnbilledPage.h"
 #include "uMain/rights.h"
+#include "uPrint/TfrmPrint.h"
 
 #include <QShowEvent>
 #include <QTabWidget>
@@ -48,12 +50,29 @@ TfrmMain::TfrmMain(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(PageControl1);
 
+    connectPrinting();
     connect(m_billMaking, &BillMakingPage::exitRequested, this, &QWidget::close);
     connect(m_reported, &BillPage::exitRequested, this, &QWidget::close);
     connect(m_returned, &BillPage::exitRequested, this, &QWidget::close);
 }
 
 TfrmMain::~TfrmMain() = default;
+
+void TfrmMain::connectPrinting()
+{
+    auto *documents = new print::PrintedDocuments(m_workbench, *CDSTmp, this);
+    const auto settings = [this] {
+        const Session &session = m_workbench.session;
+        return print::PrintSettings{session.connStyle, static_cast<print::SettlementRoute>(session.FeeInterfaceMode)};
+    };
+    m_workbench.print.settlementSheet = [=](const TdxTreeList &grid, int billType) {
+        documents->PrintSettlementSheet(grid, billType, settings());
+    };
+    m_workbench.print.approvalForm = [=](const TdxTreeList &grid, int billType) {
+        documents->PrintApprovalForm(grid, billType, settings());
+    };
+    m_workbench.print.feeList = [](const TdxTreeList &grid, int billType) { PrintFeeList(grid, billType); };
+}
 
 void TfrmMain::showEvent(QShowEvent *event)
 {

@@ -30,6 +30,7 @@ private:
     /// Everything that happens at a showing, each time anew, in a fixed order; an error ends it where it stands and
     /// reaches the host's error display.
     void FormShow();
+    void connectPrinting();
     void readConnStyle();
     void readParameters();
     void testSettlementRoute();

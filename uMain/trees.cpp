@@ -4,7 +4,6 @@
 #include "toolkit/TdxTreeList.h"
 
 #include <QApplication>
-#include <QHeaderView>
 #include <QStyle>
 
 void setUpTree(TdxTreeList &tree, const char *columnName, const char *caption)
@@ -15,5 +14,4 @@ void setUpTree(TdxTreeList &tree, const char *columnName, const char *caption)
     const QStyle &style = *QApplication::style();
     tree.setImages({style.standardIcon(QStyle::SP_DirIcon), style.standardIcon(QStyle::SP_FileIcon),
                     style.standardIcon(QStyle::SP_FileDialogDetailedView)});
-    tree.header()->setStretchLastSection(true);
 }

@@ -3,31 +3,20 @@
 #pragma once
 
 #include "host/references.h"
+#include "host/statementbuffer.h"
 #include "uMain/session.h"
-
-#include <QString>
 
 #include <functional>
 
-class TClientDataSet;
+class TdxTreeList;
 
 /// One for each main form, outliving its pages. Pages do not know each other: whoever changes rows calls the reload
 /// routines of the pages that show them, and each page connects its own.
-class Workbench {
+class Workbench : public host::StatementBuffer {
 public:
     Session session;
 
-    /// The statement built last, whatever page built it; what LoadDataSet() and execSql() run.
-    QString statement;
-
     [[nodiscard]] host::References &host() { return host::shared(); }
-
-    /// Runs the statement buffer as a query into the data set.
-    void LoadDataSet(TClientDataSet &target);
-    /// Puts a statement in the buffer and runs it as a query into the data set.
-    void LoadDataSet(const QString &sql, TClientDataSet &target);
-    /// Puts a statement in the buffer and runs it as a change.
-    void execSql(const QString &sql);
 
     /// Reload routines, named after what they reload.
     struct Reloads {
@@ -38,4 +27,12 @@ public:
         std::function<void()> history = [] {};
     };
     Reloads reload;
+
+    /// The printed documents of a grid's focused row (type 1 tables in use, 2 archive); set by the form.
+    struct Documents {
+        std::function<void(const TdxTreeList &grid, int billType)> settlementSheet;
+        std::function<void(const TdxTreeList &grid, int billType)> approvalForm;
+        std::function<void(const TdxTreeList &grid, int billType)> feeList;
+    };
+    Documents print;
 };

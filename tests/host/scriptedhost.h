@@ -27,14 +27,22 @@ struct HostScript {
     }
 };
 
-class ScriptedDataCtl : public QObject {
-    Q_OBJECT
-
+class ScriptedObject : public QObject {
 public:
-    explicit ScriptedDataCtl(HostScript &script)
+    explicit ScriptedObject(HostScript &script)
         : m_script(script)
     {
     }
+
+protected:
+    HostScript &m_script;
+};
+
+class ScriptedDataCtl : public ScriptedObject {
+    Q_OBJECT
+
+public:
+    using ScriptedObject::ScriptedObject;
     Q_INVOKABLE QVariant OpenSql(const QString &sql)
     {
         m_script.note(QStringLiteral("OpenSql ") + sql);
@@ -45,19 +53,13 @@ public:
     Q_INVOKABLE void BeginTran() { m_script.note(QStringLiteral("BeginTran")); }
     Q_INVOKABLE void CommitTran() { m_script.note(QStringLiteral("CommitTran")); }
     Q_INVOKABLE void RollbackTran() { m_script.note(QStringLiteral("RollbackTran")); }
-
-private:
-    HostScript &m_script;
 };
 
-class ScriptedFuncStorage : public QObject {
+class ScriptedFuncStorage : public ScriptedObject {
     Q_OBJECT
 
 public:
-    explicit ScriptedFuncStorage(HostScript &script)
-        : m_script(script)
-    {
-    }
+    using ScriptedObject::ScriptedObject;
     Q_INVOKABLE AUTOMATION_READ QVariant CustomParam(const QString &name)
     {
         m_script.note(QStringLiteral("CustomParam ") + name);
@@ -71,27 +73,17 @@ public:
         m_script.note(QStringLiteral("UserID"));
         return QStringLiteral("02");
     }
-    Q_INVOKABLE QString RightParam() { return QStringLiteral("12"); }
     Q_INVOKABLE QVariant GetSRM() { return 7; }
-
-private:
-    HostScript &m_script;
 };
 
-class ScriptedCodeSearch : public QObject {
+class ScriptedCodeSearch : public ScriptedObject {
     Q_OBJECT
     Q_PROPERTY(QString Table READ table WRITE setTable)
 
 public:
-    explicit ScriptedCodeSearch(HostScript &script)
-        : m_script(script)
-    {
-    }
+    using ScriptedObject::ScriptedObject;
     [[nodiscard]] QString table() const { return {}; }
     void setTable(const QString &table) { m_script.note(QStringLiteral("Table ") + table); }
-
-private:
-    HostScript &m_script;
 };
 
 /// Announces the three objects while it lives.
@@ -99,28 +91,30 @@ class ScriptedHost {
 public:
     ScriptedHost()
     {
-        announce<ScriptedDataCtl>("VortaqCore.DataCtl");
-        announce<ScriptedFuncStorage>("VortaqCore.FuncStorage");
-        announce<ScriptedCodeSearch>("VortaqCore.CodeSearch");
+        announce<ScriptedDataCtl>(DataCtl);
+        announce<ScriptedFuncStorage>(FuncStorage);
+        announce<ScriptedCodeSearch>(CodeSearch);
     }
     ~ScriptedHost()
     {
-        for (const char *identifier : {"VortaqCore.DataCtl", "VortaqCore.FuncStorage", "VortaqCore.CodeSearch"})
-            automation::unregisterObject(QString::fromUtf8(identifier));
+        for (const QString &identifier : {DataCtl, FuncStorage, CodeSearch})
+            automation::unregisterObject(identifier);
     }
-    ScriptedHost(const ScriptedHost &) = delete;
-    ScriptedHost &operator=(const ScriptedHost &) = delete;
+    Q_DISABLE_COPY(ScriptedHost)
 
     HostScript script;
     QStringList created; ///< identifiers in the order of creation
 
 private:
-    template <typename Object> void announce(const char *identifier)
+    template <typename Object> void announce(const QString &identifier)
     {
-        const QString name = QString::fromUtf8(identifier);
-        automation::registerObject(name, [this, name] {
-            created.append(name);
+        automation::registerObject(identifier, [this, identifier] {
+            created.append(identifier);
             return std::make_unique<Object>(script);
         });
     }
+
+    const QString DataCtl = QStringLiteral("VortaqCore.DataCtl");
+    const QString FuncStorage = QStringLiteral("VortaqCore.FuncStorage");
+    const QString CodeSearch = QStringLiteral("VortaqCore.CodeSearch");
 };

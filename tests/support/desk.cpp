@@ -61,20 +61,22 @@ private:
     sqlite3 *m_database = nullptr;
 };
 
+Desk *sitting = nullptr;
+
 } // namespace
 
 Desk::Desk(const Options &options)
-    : m_databaseFile(m_folder.filePath(QStringLiteral("hospital.db")))
+    : m_databaseFile(options.database.isEmpty() ? m_folder.filePath(QStringLiteral("hospital.db")) : options.database)
 {
-    createSmallHospital(m_databaseFile);
+    if (options.database.isEmpty())
+        createSmallHospital(m_databaseFile);
     if (options.setupFile) {
         QFile setup(m_folder.filePath(QStringLiteral("setup.ini")));
         if (!setup.open(QIODevice::WriteOnly) || setup.write(options.setupFile->toUtf8()) < 0)
             throw std::runtime_error("cannot write setup.ini");
     }
-    common::setExecutableFolder(m_folder.path());
     toolkit::setClock([today = options.today] { return today; });
-    automation::setErrorDisplay([this](const QString &message) { m_errors.append(message); });
+    sitDown();
 
     vortaq::OpenOptions opening;
     opening.clock = [today = options.today] { return today.startOfDay().addSecs(9 * 3600); };
@@ -89,9 +91,22 @@ Desk::~Desk()
         void *form = m_form;
         EXPECT_EQ(FreeModule(&form), TARNWELL_OK);
     }
+    if (sitting == this)
+        sitting = nullptr;
     automation::setErrorDisplay({});
     toolkit::setClock({});
     common::setExecutableFolder({});
+}
+
+void Desk::sitDown()
+{
+    if (sitting != nullptr)
+        sitting->m_references = host::shared();
+    host::shared() = m_references;
+    sitting = this;
+    common::setExecutableFolder(m_folder.path());
+    toolkit::setMessageBoxes(&m_conversation);
+    automation::setErrorDisplay([this](const QString &message) { m_errors.append(message); });
 }
 
 QWidget &Desk::open()

@@ -3,6 +3,7 @@
 // module's entry points.
 #pragma once
 
+#include "host/references.h"
 #include "tests/support/conversation.h"
 #include "tests/support/failingengine.h"
 #include "vortaq/app/hostobjects.h"
@@ -22,6 +23,7 @@ public:
         QString user = QStringLiteral("01");
         std::optional<QString> setupFile = QStringLiteral("[system]\r\nconnStyle=1\r\n"); ///< none: no file
         std::vector<vortaq::ParameterOverride> parameters = {};
+        QString database = {}; ///< another desk's file; empty: a small hospital of its own
         QDate today = QDate(2026, 3, 9); ///< on the module's calendar and in the database
     };
 
@@ -37,6 +39,11 @@ public:
     /// Creates the form and shows it.
     QWidget &open();
     [[nodiscard]] QWidget &form() const { return *m_form; }
+
+    /// With two desks in one program, what the module reaches of its host is this desk's from now on. The desk made
+    /// last is the first to sit; a desk is opened before the next one is made. Calls are heard at every desk, questions
+    /// at the one that sits.
+    void sitDown();
 
     [[nodiscard]] Conversation &conversation() { return m_conversation; }
     [[nodiscard]] FailingEngine &engine() { return *m_engine; }
@@ -59,4 +66,5 @@ private:
     std::unique_ptr<vortaq::HostObjects> m_objects;
     Conversation m_conversation;
     QWidget *m_form = nullptr;
+    host::References m_references; // while another desk sits
 };

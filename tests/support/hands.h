@@ -5,6 +5,7 @@
 #include "toolkit/TdxTreeList.h"
 
 #include <QAction>
+#include <QTabWidget>
 #include <QTest>
 #include <QWidget>
 
@@ -31,6 +32,24 @@ inline void trigger(const QWidget &form, const char *item)
     find<QAction>(form, item).trigger();
 }
 
+/// Brings a page of the main form to the front.
+inline void showPage(const QWidget &form, const char *page)
+{
+    find<QTabWidget>(form, "PageControl1").setCurrentWidget(&find<QWidget>(form, page));
+}
+
+/// Clicks a top-level node of a tree, or one of its children.
+inline void clickNode(TdxTreeList &tree, int top, int child = -1)
+{
+    QModelIndex index = tree.model()->index(top, 0);
+    if (child >= 0)
+        index = tree.model()->index(child, 0, index);
+    if (!index.isValid())
+        throw std::runtime_error("no such node");
+    tree.scrollTo(index);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(index).center());
+}
+
 /// The cell's rectangle in the grid's viewport, after scrolling it into view.
 inline QRect showCell(TdxTreeList &grid, int row, const char *column)
 {
@@ -45,6 +64,13 @@ inline QRect showCell(TdxTreeList &grid, int row, const char *column)
 inline void clickCell(TdxTreeList &grid, int row, const char *column)
 {
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, showCell(grid, row, column).center());
+}
+
+/// A click first, as the hand does it: the double-click alone would not move the focus.
+inline void doubleClickCell(TdxTreeList &grid, int row, const char *column)
+{
+    clickCell(grid, row, column);
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, showCell(grid, row, column).center());
 }
 
 /// Texts of one column, in the order shown.

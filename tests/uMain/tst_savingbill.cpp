@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// "保存制单": checks, questions, the transaction, the reloads.
+// Saving a bill ("保存制单"): checks, questions, the transaction, the reloads.
 #include "tests/support/desk.h"
 #include "tests/support/hands.h"
 #include "tests/uMain/expected.h"

@@ -68,9 +68,7 @@ void ColumnFit::refit(int column)
         return;
     const int wide = m_view.fontMetrics().horizontalAdvance(QStringLiteral("国")) * 20;
     const char *widest = m_columns[at]->definition().widest;
-    const int sample = widest == nullptr
-        ? rowsWidth(column)
-        : textWidth(QString::fromUtf8(widest));
+    const int sample = widest == nullptr ? rowsWidth(column) : textWidth(QString::fromUtf8(widest));
     setWidth(column, std::max(m_header.sectionSizeHint(column), std::min(sample, wide)));
 }
 

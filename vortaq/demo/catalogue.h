@@ -47,7 +47,7 @@ inline constexpr int topLevelTypes = 12; ///< they stand first in feeTypes()
 struct FeeItem {
     std::string_view code;
     std::string_view name;
-    std::string_view specification;
+    std::string_view packing;
     std::string_view unit;
     std::int64_t price; ///< ten-thousandths of a yuan
     int feeType; ///< position in feeTypes()

@@ -3,6 +3,7 @@
 #include "vortaq/demo/demodata.h"
 
 #include "vortaq/demo/connection.h"
+#include "vortaq/demo/procedures.h"
 #include "vortaq/demo/random.h"
 #include "vortaq/demo/recordwriter.h"
 #include "vortaq/demo/referencetables.h"
@@ -55,6 +56,7 @@ void fill(sqlite3 *database, const DemoOptions &options)
     for (const std::string &statement : schemaTableStatements())
         execute(database, statement);
     writeReferenceTables(database);
+    writeProcedures(database);
     RecordWriter writer(database, calendar, plan, averageLines(options), random);
     HouseholdMaker maker(plan, calendar.today(), random);
     std::span<const StayPlan> left = plan.stays;

@@ -12,7 +12,8 @@
 //     returned), the rest unbilled: discharged, discharged today, admitted today, both, still in hospital;
 //   - archived stays with their bills; the county hospital has one number both as a current and an archived bill;
 //   - fee lines, special approvals and settlements that add up to the records, and records that add up to bills;
-//     reviewed bills carry reviewers, approved amounts and struck-out amounts.
+//     reviewed bills carry reviewers, approved amounts and struck-out amounts;
+//   - the settlement procedures, for the tables in use and for the archive.
 // Every status occurs from about 300 current stays on.
 #pragma once
 

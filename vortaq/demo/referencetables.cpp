@@ -19,7 +19,7 @@ void writeCodes(sqlite3 *database)
         institution.text(each.code).text(each.name).run();
     Inserter item(database, "p_BxXm", "ItemCode,Gg");
     for (const FeeItem &each : feeItems())
-        item.text(each.code).text(each.specification).run();
+        item.text(each.code).text(each.packing).run();
     Inserter type(database, "p_fylb", "FeeTypeCode,FeeTypeName");
     for (const FeeType &each : feeTypes())
         type.text(each.code).text(each.name).run();

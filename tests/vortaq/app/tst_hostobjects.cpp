@@ -39,6 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(DeclaredOperation{"OpenSql", DataCtlName, "OpenSql", Kind::Method, 1},
                     DeclaredOperation{"CloseSql", DataCtlName, "CloseSql", Kind::Method, 0},
                     DeclaredOperation{"execSql", DataCtlName, "execSql", Kind::Method, 1},
+                    DeclaredOperation{"ExecProc", DataCtlName, "ExecProc", Kind::Method, 1},
                     DeclaredOperation{"BeginTran", DataCtlName, "BeginTran", Kind::Method, 0},
                     DeclaredOperation{"CommitTran", DataCtlName, "CommitTran", Kind::Method, 0},
                     DeclaredOperation{"RollbackTran", DataCtlName, "RollbackTran", Kind::Method, 0},
@@ -126,6 +127,17 @@ TEST(HostObjects, OpenSqlOfEmptyTextGivesAnEmptyPacket)
     ASSERT_TRUE(rows);
     EXPECT_EQ(rows->columnCount(), 0);
     EXPECT_EQ(rows->rowCount(), 0);
+}
+
+TEST(HostObjects, ExecProcRunsTheProcedureKeptInTheDatabase)
+{
+    const HostFixture host;
+    host.engine->answer(QStringLiteral("select Text from v_Procedure where Name='P'"),
+                        packet({QStringLiteral("Text")}, {{QStringLiteral("select @A")}}));
+    host.engine->answer(QStringLiteral("select 'x'"), packet({QString()}, {{QStringLiteral("1&2#3")}}));
+    EXPECT_EQ(call(LateBound(QStringLiteral("VortaqCore.DataCtl")), "ExecProc",
+                   {QStringLiteral(" P @A='x',@Info=:Info OutPut ")}),
+              QVariant(QStringLiteral("1&2#3")));
 }
 
 TEST(HostObjects, AllDataControlsWorkOnOneConnection)

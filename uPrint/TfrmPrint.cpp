@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "uPrint/TfrmPrint.h"
+
+#include "data/statements/feelist.h"
+#include "data/tables.h"
+#include "host/clientdataset.h"
+#include "print/templates.h"
+#include "report/TRMDBDataSet.h"
+#include "report/TRMReport.h"
+#include "toolkit/TdxTreeList.h"
+#include "toolkit/guard.h"
+#include "toolkit/recordcolumns.h"
+#include "toolkit/shortdate.h"
+#include "toolkit/singleinstance.h"
+#include "ui_TfrmPrint.h"
+
+namespace {
+
+std::unique_ptr<TfrmPrint> frmPrint;
+
+const QString DailyTemplate = QStringLiteral("Module\\费用清单.rmf");
+const QString TotalTemplate = QStringLiteral("Module\\费用清单(总).rmf");
+
+} // namespace
+
+TfrmPrint::TfrmPrint(FeeListStay stay, QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::TfrmPrint>())
+    , m_stay(std::move(stay))
+    , CDSMain(new TClientDataSet(this))
+    , CDSDetail(new TClientDataSet(this))
+    , RMDBDataSetDetail(new TRMDBDataSet(this))
+    , RMReport1(new TRMReport(this))
+{
+    m_ui->setupUi(this);
+    setObjectName(QStringLiteral("frmPrint"));
+    CDSMain->setObjectName(QStringLiteral("CDSMain"));
+    CDSDetail->setObjectName(QStringLiteral("CDSDetail"));
+    RMDBDataSetDetail->setObjectName(QStringLiteral("RMDBDataSetDetail"));
+    RMReport1->setObjectName(QStringLiteral("RMReport1"));
+    for (QDateEdit *picker : {m_ui->dtpBegDate, m_ui->dtpEndDate})
+        picker->setDisplayFormat(toolkit::shortDateFormat());
+    m_ui->dtpBegDate->setDate(m_stay.inDate);
+    m_ui->dtpEndDate->setDate(m_stay.outDate);
+
+    RMDBDataSetDetail->setDataSet(CDSDetail);
+    RMReport1->setDataSet(RMDBDataSetDetail);
+    RMReport1->setHeaders({CDSMain});
+    RMReport1->setOnGetValue([this](const QString &name, QVariant &value) { RMReport1GetValue(name, value); });
+    toolkit::connectGuarded(m_ui->btnPrint, &QPushButton::clicked, this, [this] { btnPrintClick(); });
+    toolkit::connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, [this] { close(); });
+}
+
+TfrmPrint::~TfrmPrint() = default;
+
+void TfrmPrint::ShowModal()
+{
+    FormShow();
+    exec();
+}
+
+void TfrmPrint::FormShow()
+{
+    DataCtl = host::DataCtlProxy(automation::LateBound(QString::fromUtf16(host::DataCtlProxy::Identifier)));
+    FuncStorage = host::FuncStorageProxy(automation::LateBound(QString::fromUtf16(host::FuncStorageProxy::Identifier)));
+}
+
+void TfrmPrint::btnPrintClick()
+{
+    loadRows();
+    RMReport1->LoadFromFile(print::templatePath(m_ui->rbDate->isChecked() ? DailyTemplate : TotalTemplate));
+    RMReport1->ShowReport();
+}
+
+void TfrmPrint::loadRows()
+{
+    const QString prefix = data::tablePrefix(m_stay.billType);
+    CDSMain->setData(DataCtl.OpenSql(data::feeListHeader(prefix, m_stay.key))); // nothing is closed in this dialog
+    // The dates go in as the pickers show them and are compared as texts: only a locale that writes yyyy-mm-dd selects
+    // the days that are meant.
+    CDSDetail->setData(
+        DataCtl.OpenSql(data::feeListItems(prefix, m_stay.key, m_ui->dtpBegDate->text(), m_ui->dtpEndDate->text())));
+}
+
+void TfrmPrint::RMReport1GetValue(const QString &name, QVariant &value)
+{
+    if (name.toLower() == QStringLiteral("username"))
+        value = FuncStorage.UserName();
+}
+
+void PrintFeeList(const TdxTreeList &grid, int billType)
+{
+    const TdxTreeListNode row = grid.focusedNode();
+    if (!row)
+        return;
+    const auto date = [&](const char *suffix) {
+        return toolkit::parseShortDate(row.text(toolkit::columnPosition(grid, suffix)));
+    };
+    toolkit::showSingleInstance(
+        frmPrint, FeeListStay{toolkit::RecordColumns(grid).key(row), date("InDate"), date("OutDate"), billType},
+        grid.window());
+}

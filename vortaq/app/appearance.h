@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Fonts, colours and language of the program.
+#pragma once
+
+class QApplication;
+class QCoreApplication;
+
+namespace vortaq {
+
+/// Qt's own Chinese texts (buttons, dialogs, command-line messages) and the Chinese locale.
+void useChinese(QCoreApplication &application);
+
+/// One style on every desktop, Chinese fonts in a fixed order of preference, calm colours.
+void dress(QApplication &application);
+
+} // namespace vortaq

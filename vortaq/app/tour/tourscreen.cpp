@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// Describes the screen to Qt's offscreen platform, whose own default is smaller than the windows.
+#include "vortaq/app/tour/tourscreen.h"
+
+namespace vortaq {
+
+namespace {
+
+QtMessageHandler previousHandler = nullptr;
+
+/// The offscreen platform remarks at every window on what it cannot do, which nobody asked of it.
+void passOn(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (!message.startsWith(QStringLiteral("This plugin does not support")))
+        previousHandler(type, context, message);
+}
+
+} // namespace
+
+TourScreen::TourScreen(bool isTour)
+{
+    QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!isTour || (!platform.isEmpty() && platform != "offscreen"))
+        return;
+    platform = QByteArrayLiteral("offscreen");
+    if (m_configuration.open()) {
+        m_configuration.write(R"({"screens":[{"name":"tour","x":0,"y":0,"width":1440,"height":900,)"
+                              R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})");
+        m_configuration.close();
+        platform += ":configfile=" + m_configuration.fileName().toUtf8();
+    }
+    previousHandler = qInstallMessageHandler(&passOn);
+    qputenv("QT_QPA_PLATFORM", platform);
+}
+
+} // namespace vortaq
