@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "report/TRMDBDataSet.h"
+
+TRMDBDataSet::TRMDBDataSet(QObject *parent)
+    : QObject(parent)
+{
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// Amounts in Chinese capital numerals, as receipts carry them against tampering.
+#pragma once
+
+#include <QString>
+
+namespace report {
+
+/// 1234.56 as 壹仟贰佰叁拾肆元伍角陆分, rounded to the cent with halves away from zero. 整 ends an amount without
+/// cents, 零 stands once for any digits of zero between others, 负 before an amount below zero. Throws
+/// std::out_of_range from ten thousand times a hundred million yuan (10^12) on and for what is not a number.
+[[nodiscard]] QString capitalAmount(long double yuan);
+
+} // namespace report
