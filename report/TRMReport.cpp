@@ -17,6 +17,11 @@ TRMReport::TRMReport(QObject *parent)
 {
 }
 
+void TRMReport::setDataSet(TRMDBDataSet *dataSet)
+{
+    m_dataSet = dataSet;
+}
+
 void TRMReport::setHeaders(const std::vector<TClientDataSet *> &headers)
 {
     m_headers.assign(headers.begin(), headers.end());

@@ -24,7 +24,7 @@ public:
     explicit TRMReport(QObject *parent = nullptr);
 
     /// Rows of the template's list; of a form without a list the first row is printed. Borrowed; null unbinds.
-    void setDataSet(TRMDBDataSet *dataSet) { m_dataSet = dataSet; }
+    void setDataSet(TRMDBDataSet *dataSet);
     /// Further data sets of one row each, for what stands around the list. Borrowed.
     void setHeaders(const std::vector<TClientDataSet *> &headers);
     /// Asked for every variable; the value it gets is the report's own and may be left as it is.

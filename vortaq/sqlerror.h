@@ -12,13 +12,13 @@ namespace vortaq {
 class SqlError : public std::runtime_error {
 public:
     enum class Reason {
-        Syntax,      ///< the text is no statement of the subset; the message names line and column
-        Binding,     ///< unknown or ambiguous names, wrong types, wrong grouping
-        Conversion,  ///< a value cannot be converted, is too long or out of range
-        Constraint,  ///< a unique key or another rule of the database
+        Syntax, ///< the text is no statement of the subset; the message names line and column
+        Binding, ///< unknown or ambiguous names, wrong types, wrong grouping
+        Conversion, ///< a value cannot be converted, is too long or out of range
+        Constraint, ///< a unique key or another rule of the database
         Transaction, ///< begin inside a transaction, commit outside
-        Busy,        ///< another program holds the database
-        ReadOnly,    ///< the database may not be written
+        Busy, ///< another program holds the database
+        ReadOnly, ///< the database may not be written
         NotADatabase,
         Other
     };

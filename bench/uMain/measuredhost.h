@@ -44,6 +44,8 @@ public:
     {
         if (name == QStringLiteral("DigitalFormat"))
             return QStringLiteral(",0.00;-,0.00");
+        if (name == QStringLiteral("OrgCode"))
+            return QStringLiteral("420101");
         return name == QStringLiteral("isBillAll") ? QVariant(1) : QVariant(0xF7F4EE);
     }
 };

@@ -1,7 +1,8 @@
 /* SPDX-License-Identifier: MIT
  *
  * A settlement library to start from: pays 100.125 yuan for the first stay of every member and refuses the others.
- * Build, in the folder above samples: cc -shared -fPIC -I. -o Module/FeeInterFace.so samples/feeinterface/feeinterface.c
+ * Build, in the folder above samples: cc -shared -fPIC -I. -o Module/FeeInterFace.so
+ * samples/feeinterface/feeinterface.c
  */
 #include "samples/feeinterface/feeinterface.h"
 

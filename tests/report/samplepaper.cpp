@@ -98,7 +98,7 @@ void fillFeeItems(TClientDataSet &dataSet, int count, int perDay)
 {
     struct Item {
         const char *name;
-        const char *specification;
+        const char *packing;
         const char *unit;
         int price; // hundredths
     };

@@ -34,11 +34,10 @@ const BillPageParts Reported = {
                " from o_CbZyBxDj  where BillCode='42990101' and BillNo=%1 order by OutDate ",
     .releaseAll = " update o_cbzybxdj set BillCode = null,BillNo = null  where BillCode='42990101' and BillNo=%1",
     .deleteBill = " delete from o_cbzyzdb  where BillCode='42990101'   and BillNo=%1",
-    .releaseRecord =
-        " update o_CbZyBxDj  set BillCode = null,BillNo = null,"
-        "     CheckerCode1=null,CheckerName1=null,CheckOneFee=0,CheckDate1=null,Checkone=null,"
-        "     CheckerCode=null,CheckerName=null,CheckFee=0,CheckDate=null,CheckRemark=null"
-        "  where OrgCode='42990101'   and CoopMedCode='%1'   and IDNO=%2 and DiagNo =%3",
+    .releaseRecord = " update o_CbZyBxDj  set BillCode = null,BillNo = null,"
+                     "     CheckerCode1=null,CheckerName1=null,CheckOneFee=0,CheckDate1=null,Checkone=null,"
+                     "     CheckerCode=null,CheckerName=null,CheckFee=0,CheckDate=null,CheckRemark=null"
+                     "  where OrgCode='42990101'   and CoopMedCode='%1'   and IDNO=%2 and DiagNo =%3",
     .clearDeductions = " update o_CbZyBxDjZb  set KnockOffFee1=0,KnockOffFee=0  where OrgCode='42990101'"
                        "   and CoopMedCode='%1'   and IDNO=%2 and DiagNo =%3"
                        "   and (isnull(KnockOffFee1,0) <> 0 or isnull(KnockOffFee,0) <> 0) ",
@@ -78,11 +77,10 @@ const BillPageParts Returned = {
                " from o_cbzybxdj  where BillCode='42990101' and BillNo=%1 order by OutDate ",
     .releaseAll = " update o_CbZyBxDj set BillCode = null,BillNo = null  where BillCode='42990101' and BillNo=%1",
     .deleteBill = " delete from o_CbZyZdb  where BillCode='42990101'   and BillNo=%1",
-    .releaseRecord =
-        " update o_CbZyBxDj set BillCode=null,BillNo=null,"
-        "     CheckerCode1=null,CheckerName1=null,CheckOneFee=0,CheckDate1=null,Checkone=null,"
-        "     CheckerCode=null,CheckerName=null,CheckFee=0,CheckDate=null,CheckRemark=null"
-        "  where OrgCode='42990101'   and CoopMedCode='%1'   and IDNo=%2 and DiagNo=%3",
+    .releaseRecord = " update o_CbZyBxDj set BillCode=null,BillNo=null,"
+                     "     CheckerCode1=null,CheckerName1=null,CheckOneFee=0,CheckDate1=null,Checkone=null,"
+                     "     CheckerCode=null,CheckerName=null,CheckFee=0,CheckDate=null,CheckRemark=null"
+                     "  where OrgCode='42990101'   and CoopMedCode='%1'   and IDNo=%2 and DiagNo=%3",
     .clearDeductions = " update o_CbZyBxDjZb  set KnockOffFee1=0,KnockOffFee=0  where OrgCode='42990101'"
                        "   and CoopMedCode='%1'   and IDNo=%2 and DiagNo=%3"
                        "   and (isnull(KnockOffFee1,0) <> 0 or isnull(KnockOffFee,0) <> 0) ",

@@ -57,9 +57,9 @@ inline std::string pageName(const testing::TestParamInfo<const BillPageParts *> 
 /// Beside the small hospital's own rows, bills of 42990101 in the page's status:
 ///
 ///   | BillNo | WriteDate  | Fee     | CanFreeFee | records                                                          |
-///   | 21     | 2026-03-02 | 1200.30 | 950.15     | 周强 (01'1, 3, 2; 1000.10, 800.05; reviewed twice), 吴芳 (0102, 2, 1; 200.20, 150.10) |
-///   | 20     | 2026-03-01 | 5.50    | null       | 郑和 (0103, 1, 1; 5.50, null)                                     |
-///   | 19     | 2026-02-28 | null    | null       | none                                                             |
+///   | 21     | 2026-03-02 | 1200.30 | 950.15     | 周强 (01'1, 3, 2; 1000.10, 800.05; reviewed twice), 吴芳 (0102, 2,
+///   1; 200.20, 150.10) | | 20     | 2026-03-01 | 5.50    | null       | 郑和 (0103, 1, 1; 5.50, null) | | 19     |
+///   2026-02-28 | null    | null       | none                                                             |
 ///
 /// 周强 has three fee lines, two of them with deductions.
 class BillPageTest : public testing::TestWithParam<const BillPageParts *> {

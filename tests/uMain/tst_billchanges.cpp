@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What the pages "上报制单" and "退单制单" do to bills: reporting, cancelling, taking out, adding.
 #include "data/statements/candidates.h"
-#include "host/clientdataset.h"
 #include "tests/support/modalvisit.h"
 #include "tests/uMain/billpages.h"
-#include "uMain/BillChanges.h"
 
 #include <functional>
 
@@ -55,8 +53,8 @@ protected:
 
     [[nodiscard]] QString release(const char *statement, const char *card, const char *idNo, const char *diagNo) const
     {
-        return execSql(
-            QString::fromUtf8(statement).arg(QString::fromUtf8(card), QString::fromUtf8(idNo), QString::fromUtf8(diagNo)));
+        return execSql(QString::fromUtf8(statement).arg(QString::fromUtf8(card), QString::fromUtf8(idNo),
+                                                        QString::fromUtf8(diagNo)));
     }
 
     /// Each of the action's first `steps` calls fails once: the database stays as it was, the clerk is told, and the
@@ -87,15 +85,13 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(Pages, BillChangesTest, testing::Values(&Reported, &Returned), pageName);
 
-// ---- reporting
-
 TEST_P(BillChangesTest, reportingIsOneStatementWithoutATransaction)
 {
     open();
     choose(Two);
     EXPECT_EQ(reportBill(),
-              QStringList(ask(ReportQuestion)) + query(guard("21")) + QStringList({report("21"), hint("上报制单成功！")})
-                  + ownTree() + history());
+              QStringList(ask(ReportQuestion)) + query(guard("21"))
+                  + QStringList({report("21"), hint("上报制单成功！")}) + ownTree() + history());
     EXPECT_EQ(billRows().first(), QStringLiteral("21|1200.3|950.15|2"));
     ASSERT_EQ(tree().topNode().childCount(), 2) << "a reported bill is on neither bill page";
     EXPECT_EQ(tree().topNode().child(0).text(3), QStringLiteral("20"));
@@ -121,8 +117,8 @@ TEST_P(BillChangesTest, aBillThatMovedOnIsNotReported)
         const char *word;
         bool reloads;
     };
-    for (const Row row : {Row{"2", "上报", false}, Row{"3", "一级审核", true}, Row{"4", "", true}, Row{"", "取消", false},
-                          Row{"7", "", false}}) {
+    for (const Row row : {Row{"2", "上报", false}, Row{"3", "一级审核", true}, Row{"4", "", true},
+                          Row{"", "取消", false}, Row{"7", "", false}}) {
         open();
         choose(Two);
         reviewElsewhere(row.status);
@@ -175,8 +171,6 @@ TEST_P(BillChangesTest, aReloadThatFailsAfterReportingIsToldAlike)
     EXPECT_EQ(lines.last(), alert("上报制单失败！\r\n故障"));
     EXPECT_EQ(billRows().first(), QStringLiteral("21|1200.3|950.15|2"));
 }
-
-// ---- cancelling whole
 
 TEST_P(BillChangesTest, cancellingWholeFreesTheRecordsAndDeletesTheBill)
 {
@@ -247,8 +241,6 @@ TEST_P(BillChangesTest, aReloadThatFailsAfterCancellingIsToldAlike)
     EXPECT_EQ(lines.mid(lines.size() - 2), QStringList({Rollback, alert("取消制单失败！\r\n故障")}));
     EXPECT_EQ(billRows().size(), 2) << "the bill is gone all the same";
 }
-
-// ---- taking one record out
 
 TEST_P(BillChangesTest, takingOneOfSeveralOutKeepsTheBill)
 {
@@ -352,8 +344,6 @@ TEST_P(BillChangesTest, aRefusalOfTheDatabaseItselfRollsBack)
     EXPECT_EQ(m_desk->contents(), before);
 }
 
-// ---- adding
-
 TEST_P(BillChangesTest, addingReloadsWhateverHappenedInTheDialog)
 {
     open();
@@ -404,8 +394,6 @@ TEST_P(BillChangesTest, aReloadThatFailsAfterAddingReachesTheHost)
     EXPECT_FALSE(said().join(u'\n').contains(QStringLiteral("Alert")));
 }
 
-// ---- nothing to act on
-
 TEST_P(BillChangesTest, aNoSendsNothing)
 {
     open();
@@ -416,8 +404,9 @@ TEST_P(BillChangesTest, aNoSendsNothing)
     }
     m_desk->conversation().answerNo();
     hands::click(form(), m_page->cancelOne);
-    EXPECT_EQ(said(),
-              QStringList({ask(ReportQuestion, false), ask(CancelQuestion, false), ask(m_page->cancelOneQuestion, false)}));
+    EXPECT_EQ(
+        said(),
+        QStringList({ask(ReportQuestion, false), ask(CancelQuestion, false), ask(m_page->cancelOneQuestion, false)}));
 }
 
 TEST_P(BillChangesTest, theGroupNodeIsNoBill)
@@ -451,75 +440,4 @@ TEST_P(BillChangesTest, anEmptyBillHasNoRecordToTakeOutAndTakesNoneIn)
     EXPECT_EQ(cancelRecord(), QStringList(ask(m_page->cancelOneQuestion)));
     hands::click(form(), m_page->add);
     EXPECT_TRUE(said().isEmpty());
-}
-
-// ---- the status check by itself
-
-namespace {
-
-class CheckBillStatusTest : public testing::Test {
-protected:
-    CheckBillStatusTest()
-    {
-        m_desk.open();
-        m_desk.conversation().take();
-        m_workbench.session.connStyle = 1;
-        m_workbench.reload = {
-            .unbilledTree = [this] { m_reloaded.append(QStringLiteral("unbilled")); },
-            .candidates = [this] { m_reloaded.append(QStringLiteral("candidates")); },
-            .reportedBills = [this] { m_reloaded.append(QStringLiteral("reported")); },
-            .returnedBills = [this] { m_reloaded.append(QStringLiteral("returned")); },
-            .history = [this] { m_reloaded.append(QStringLiteral("history")); },
-        };
-    }
-
-    /// Bill 3 of the small hospital, which is made.
-    [[nodiscard]] bool check(const char *allowed)
-    {
-        return BillChanges(m_workbench, m_scratch, ReportedBills, &m_desk.form())
-            .CheckBillStatus({QStringLiteral("42990102"), QStringLiteral("3")}, QString::fromUtf8(allowed));
-    }
-
-    Desk m_desk;
-    Workbench m_workbench;
-    TClientDataSet m_scratch;
-    QStringList m_reloaded;
-};
-
-} // namespace
-
-TEST_F(CheckBillStatusTest, aMadeBillThatIsNotAllowedReloadsEverything)
-{
-    // No caller excludes made bills, so no page can show this.
-    EXPECT_FALSE(check(" '9' "));
-    EXPECT_EQ(m_desk.conversation().take(),
-              query(QStringLiteral(" select CheckStatus from o_CbZyZdb  where BillCode='42990102'   and BillNo=3   and "
-                                   "CheckStatus not in ( '9' ) "))
-                  + QStringList(refusal("")));
-    EXPECT_EQ(m_reloaded,
-              QStringList({QStringLiteral("unbilled"), QStringLiteral("candidates"), QStringLiteral("reported"),
-                           QStringLiteral("returned"), QStringLiteral("history")}));
-}
-
-TEST_F(CheckBillStatusTest, anAllowedStatusSaysNothing)
-{
-    EXPECT_TRUE(check(" '1','9' "));
-    EXPECT_EQ(m_desk.conversation().take().size(), 2);
-    EXPECT_TRUE(m_reloaded.isEmpty());
-}
-
-TEST_F(CheckBillStatusTest, aBillThatIsGonePasses)
-{
-    m_desk.sqlite("delete from o_CbZyZdb");
-    EXPECT_TRUE(check(" '9' "));
-    EXPECT_TRUE(m_reloaded.isEmpty());
-}
-
-TEST_F(CheckBillStatusTest, otherConnStylesAskNothing)
-{
-    for (const int style : {0, 2, -1}) {
-        m_workbench.session.connStyle = style;
-        EXPECT_TRUE(check(" '9' "));
-    }
-    EXPECT_TRUE(m_desk.conversation().take().isEmpty());
 }

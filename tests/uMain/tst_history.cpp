@@ -84,16 +84,16 @@ const char *const Columns[][2] = {
 
 QStringList recordsFrom(const char *table, const char *number)
 {
-    return query(QStringLiteral(
-                     " select OrgCode,CoopMedCode,IDNo,DiagNo,HospitalCode,HospitalName,PatientName,HouseHolder,Sex, "
-                     "cast(Age as varchar(100))+AgeUnit as Age,InDate,DayCount,OutDate,PatientNo,IllCode,IllName, "
-                     "Str(TotalFee,15,2) as TotalFee,Str(CanFreeFee,15,2) as CanFreeFee, Str(FreeFee,15,2) as "
-                     "FreeFee,DoctorName,CheckOneFee,Checkone,InterfaceIn,AreaCode, (case when CheckerCode1 is null "
-                     "then '2' else '1' end) as isCheck,InputerCode,InputerName,  (case ExpenseKind when '21' then "
-                     "'普通住院' when '22' then '单病种住院'     when '23' then '正常分娩住院' when '29' then "
-                     "'其他住院' when '90' then '其他' end) as ExpenseName,ExpressionsID,LimitDef from %1 where "
-                     "BillCode='42990101' and BillNo=%2 order by OutDate ")
-                     .arg(QString::fromUtf8(table), QString::fromUtf8(number)));
+    return query(
+        QStringLiteral(" select OrgCode,CoopMedCode,IDNo,DiagNo,HospitalCode,HospitalName,PatientName,HouseHolder,Sex, "
+                       "cast(Age as varchar(100))+AgeUnit as Age,InDate,DayCount,OutDate,PatientNo,IllCode,IllName, "
+                       "Str(TotalFee,15,2) as TotalFee,Str(CanFreeFee,15,2) as CanFreeFee, Str(FreeFee,15,2) as "
+                       "FreeFee,DoctorName,CheckOneFee,Checkone,InterfaceIn,AreaCode, (case when CheckerCode1 is null "
+                       "then '2' else '1' end) as isCheck,InputerCode,InputerName,  (case ExpenseKind when '21' then "
+                       "'普通住院' when '22' then '单病种住院'     when '23' then '正常分娩住院' when '29' then "
+                       "'其他住院' when '90' then '其他' end) as ExpenseName,ExpressionsID,LimitDef from %1 where "
+                       "BillCode='42990101' and BillNo=%2 order by OutDate ")
+            .arg(QString::fromUtf8(table), QString::fromUtf8(number)));
 }
 
 class HistoryTest : public testing::Test {
@@ -313,7 +313,7 @@ TEST_F(HistoryTest, onceWithoutAnyBillThePrintMenuIsGoneForGood)
     choose(Made);
     EXPECT_EQ(grid().count(), 2);
     EXPECT_EQ(grid().popupMenu(), nullptr);
-    QContextMenuEvent request(QContextMenuEvent::Keyboard, {});
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, {}, {});
     QApplication::sendEvent(&grid(), &request);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
@@ -322,7 +322,7 @@ TEST_F(HistoryTest, aRightClickOffersThePrintMenu)
 {
     open();
     choose(Made);
-    QContextMenuEvent request(QContextMenuEvent::Keyboard, {});
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, {}, {});
     QApplication::sendEvent(&grid(), &request);
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(QApplication::activePopupWidget()->objectName(), QStringLiteral("pMPrint"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// "退单": ticked records go back to the ward, all in one transaction or none.
+// The button "退单": ticked records go back to the ward, all in one transaction or none.
 #include "tests/support/desk.h"
 #include "tests/support/hands.h"
 #include "tests/uMain/expected.h"

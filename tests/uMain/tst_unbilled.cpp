@@ -14,7 +14,6 @@
 #include <QHeaderView>
 #include <QImage>
 #include <QStyle>
-#include <QTabWidget>
 
 using namespace expected;
 
@@ -36,7 +35,7 @@ protected:
     void show()
     {
         m_desk->open();
-        hands::find<QTabWidget>(m_desk->form(), "PageControl1").setCurrentIndex(0);
+        hands::showPage(m_desk->form(), "TabSheet1");
     }
     void open(const Desk::Options &options = Desk::Options())
     {
@@ -98,6 +97,7 @@ TEST_F(UnbilledTest, everyInstitutionWithAnUnbilledRecordIsInTheTree)
         QStringList({QStringLiteral("(42990101)甲镇卫生院|42990101"), QStringLiteral("(42990102)乙镇卫生院|42990102")}))
         << "an institution without a name of its own is not";
     const QImage folder = tree().style()->standardIcon(QStyle::SP_DirIcon).pixmap(16).toImage();
+    ASSERT_FALSE(folder.isNull());
     for (int row = 0; row < tree().count(); ++row) {
         const QVariant image = tree().model()->index(row, 0).data(Qt::DecorationRole);
         EXPECT_EQ(image.value<QIcon>().pixmap(16).toImage(), folder) << row;
@@ -189,7 +189,7 @@ TEST_F(UnbilledTest, listsDischargedRecordsBeforeThoseInHospital)
 TEST_F(UnbilledTest, anotherInstitutionIsListedByOneQuery)
 {
     open();
-    hands::clickCell(tree(), 1, "dxTLDjOrgInfoName");
+    hands::clickNode(tree(), 1);
     EXPECT_EQ(
         m_desk->conversation().take(),
         query(QStringLiteral(
@@ -229,7 +229,7 @@ TEST_F(UnbilledTest, aFailingListKeepsItsRows)
     open();
     const QStringList before = column("DiagNo");
     m_desk->engine().failCall(1);
-    hands::clickCell(tree(), 1, "dxTLDjOrgInfoName");
+    hands::clickNode(tree(), 1);
     EXPECT_EQ(m_desk->conversation().take(),
               QStringList(openSql(data::unbilledRecords(QStringLiteral("42990102"))) + QStringLiteral(" !故障")));
     EXPECT_EQ(m_desk->errors(), QStringList(QStringLiteral("故障")));
@@ -312,7 +312,7 @@ TEST_F(UnbilledTest, aDoubleClickOpensTheRecordsFees)
     prepare();
     m_desk->sqlite("update o_CbZyBxDj set HospitalCode='42999901'"); // treated elsewhere: no part of the key
     show();
-    hands::clickCell(tree(), 1, "dxTLDjOrgInfoName");
+    hands::clickNode(tree(), 1);
     m_desk->conversation().take();
     const ModalVisit visit(QStringLiteral("frmDjDetail"), [](QWidget &) {});
     hands::doubleClickCell(grid(), 0, "dxTLBxDjDetailPatient");
@@ -349,8 +349,8 @@ TEST_F(UnbilledTest, withoutAFocusedRowNothingOpens)
 TEST_F(UnbilledTest, whatStandsInABillLeavesTheListAtTheNextReload)
 {
     open();
-    hands::clickCell(tree(), 1, "dxTLDjOrgInfoName");
-    hands::find<QTabWidget>(m_desk->form(), "PageControl1").setCurrentIndex(1);
+    hands::clickNode(tree(), 1);
+    hands::showPage(m_desk->form(), "TabSheet3");
     hands::clickCell(hands::find<TdxTreeList>(m_desk->form(), "dxTLUp"), 2, "dxTLUpCheck");
     hands::click(m_desk->form(), "btnSave");
     EXPECT_EQ(institutions(), QStringList(QStringLiteral("(42990101)甲镇卫生院|42990101")));

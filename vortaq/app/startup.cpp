@@ -124,10 +124,23 @@ QStringList argumentsOf(int argc, char **argv)
     return arguments;
 }
 
+/// The printed fee list compares dates as texts, in the environment's short format: only yyyy-mm-dd finds the days that
+/// are meant, so that is what this program's dates look like, whatever language the desktop is set to.
+void useIsoDates()
+{
+    const QByteArray all = qgetenv("LC_ALL");
+    if (!all.isEmpty()) {
+        qputenv("LANG", all);
+        qunsetenv("LC_ALL");
+    }
+    qputenv("LC_TIME", "C");
+}
+
 } // namespace
 
 int runProgram(int &argc, char **argv)
 {
+    useIsoDates();
     nameProgram();
     const ParsedOptions parsed = parseOptions(argumentsOf(argc, argv));
     const Options &options = parsed.options;

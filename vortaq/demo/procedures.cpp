@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What the settlement procedures ask, for either set of tables.
 #include "vortaq/demo/procedures.h"
 
 #include "vortaq/demo/inserter.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Reads a call from left to right.
 #include "vortaq/procedures/procedurecall.h"
 
 #include "vortaq/sqlerror.h"

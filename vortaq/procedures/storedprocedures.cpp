@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Finds a procedure, fills its arguments in and asks the engine.
 #include "vortaq/procedures/storedprocedures.h"
 
 #include "vortaq/engine.h"
