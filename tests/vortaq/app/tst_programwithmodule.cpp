@@ -90,6 +90,10 @@ TEST_F(TourTest, WalksThroughAndLeavesPicturesAndATrace)
         EXPECT_TRUE(file.startsWith(QStringLiteral("%1-").arg(++number, 2, 10, QLatin1Char('0'))))
             << file.toStdString();
 
+    EXPECT_EQ(QDir(m_pictures).entryList({QStringLiteral("*.pdf")}, QDir::Files, QDir::Name),
+              QStringList({QStringLiteral("住院审批表.pdf"), QStringLiteral("结算单.pdf"),
+                           QStringLiteral("费用清单(总).pdf"), QStringLiteral("费用清单.pdf")}));
+
     QFile lines(trace);
     ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
     const QByteArray text = lines.readAll();
@@ -98,6 +102,9 @@ TEST_F(TourTest, WalksThroughAndLeavesPicturesAndATrace)
     EXPECT_EQ(text.left(firstCall.size()), firstCall);
     EXPECT_TRUE(text.contains(
         R"({"object":"FuncStorage","operation":"ShowHint","kind":"method","args":["制单成功！"],"ok":true})"));
+    EXPECT_TRUE(
+        text.contains(R"({"object":"DataCtl","operation":"ExecProc","kind":"method","args":[" Pro_Zy_FeeInterFace )"));
+    EXPECT_TRUE(text.contains(R"("ok":true,"result":"1&)"));
     EXPECT_FALSE(text.contains(R"("ok":false)"));
     EXPECT_EQ(operations(text, QStringLiteral("CodeSearch")).join(QLatin1Char(' ')),
               QStringLiteral("Init Table Where OrderBy FieldList CustomField CodeType Code SetPosition Show "

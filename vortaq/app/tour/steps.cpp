@@ -19,7 +19,8 @@ std::span<const TourStep> tourSteps()
         TourStep{"查询制单机构", &lookInstitutionUp},   TourStep{"保存制单", &saveBill},
         TourStep{"打开上报制单", &showReportedPage},    TourStep{"添加单据", &offerFurtherRecords},
         TourStep{"整批上报制单", &reportBill},          TourStep{"打开退单制单", &showReturnedPage},
-        TourStep{"打开历史制单查询", &showHistoryPage},
+        TourStep{"打开历史制单查询", &showHistoryPage}, TourStep{"打印结算单", &printSettlementSheet},
+        TourStep{"打印住院审批表", &printApprovalForm}, TourStep{"打印费用清单", &printFeeLists},
     };
     return Steps;
 }

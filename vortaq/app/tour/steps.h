@@ -38,6 +38,9 @@ void offerFurtherRecords(TourScene &scene);
 void reportBill(TourScene &scene);
 void showReturnedPage(TourScene &scene);
 void showHistoryPage(TourScene &scene);
+void printSettlementSheet(TourScene &scene);
+void printApprovalForm(TourScene &scene);
+void printFeeLists(TourScene &scene);
 
 // What several stations do.
 
