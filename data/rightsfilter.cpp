@@ -39,11 +39,4 @@ QString recordFilter(const Grant &grant, const RecordFilterIndent &indent)
         + quotedStr(grant.userCode) + conditions + u"and b.RightCode="_s + quotedStr(grant.rightCode) + u")"_s;
 }
 
-QString scopeByInstitutionType(const QString &orgType, const QString &areaCode, const QString &orgCode)
-{
-    if (orgType == u"1")
-        return u" OrgCode like '"_s + areaCode + u"%' "_s;
-    return orgType == u"2" ? u" OrgCode ="_s + quotedStr(orgCode) : QString();
-}
-
 } // namespace data

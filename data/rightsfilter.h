@@ -26,8 +26,4 @@ struct RecordFilterIndent {
 /// Appended to a query of records, to keep those of granted institutions.
 [[nodiscard]] QString recordFilter(const Grant &grant, const RecordFilterIndent &indent);
 
-/// The condition by the institution's type: type 1 oversees an area, type 2 is one institution, others get none.
-/// The area code goes in raw.
-[[nodiscard]] QString scopeByInstitutionType(const QString &orgType, const QString &areaCode, const QString &orgCode);
-
 } // namespace data

@@ -80,28 +80,4 @@ const Row Rows[] = {
 INSTANTIATE_TEST_SUITE_P(Texts, RightsFilterStatement, testing::ValuesIn(Rows),
                          [](const testing::TestParamInfo<Row> &row) { return row.param.name; });
 
-struct Scope {
-    const char *name;
-    QString built;
-    QString expected;
-};
-
-class InstitutionScope : public testing::TestWithParam<Scope> { };
-
-TEST_P(InstitutionScope, isByteForByte)
-{
-    EXPECT_EQ(GetParam().built, GetParam().expected);
-}
-
-const Scope Scopes[] = {
-    {"Area", scopeByInstitutionType(u"1"_s, u"420106"_s, u"4201"_s), u" OrgCode like '420106%' "_s},
-    {"AreaGoesInRaw", scopeByInstitutionType(u"1"_s, u"42'01"_s, u"4201"_s), u" OrgCode like '42'01%' "_s},
-    {"Institution", scopeByInstitutionType(u"2"_s, u"420106"_s, u"42'01"_s), u" OrgCode ='42''01'"_s},
-    {"OtherType", scopeByInstitutionType(u"3"_s, u"420106"_s, u"4201"_s), u""_s},
-    {"NoType", scopeByInstitutionType(u""_s, u"420106"_s, u"4201"_s), u""_s},
-};
-
-INSTANTIATE_TEST_SUITE_P(Texts, InstitutionScope, testing::ValuesIn(Scopes),
-                         [](const testing::TestParamInfo<Scope> &scope) { return scope.param.name; });
-
 } // namespace
