@@ -20,7 +20,9 @@ struct CatalogColumn {
 struct CatalogTable {
     std::string name; ///< as declared
     std::vector<CatalogColumn> columns;
-    std::vector<std::size_t> primaryKey; ///< positions in columns, in key order; empty for a view
+    /// Positions in columns, in key order. Its values are never null and unique as they compare; empty when there is
+    /// none such.
+    std::vector<std::size_t> primaryKey;
 
     /// Position of a column, found without regard to ASCII letter case; columns.size() when there is none.
     [[nodiscard]] std::size_t find(std::string_view columnName) const;

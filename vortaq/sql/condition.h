@@ -46,6 +46,11 @@ struct InQuery {
     bool negated = false;
 };
 
+/// Whether the query has a row.
+struct Exists {
+    Subquery subquery;
+};
+
 struct Negated {
     ConditionPtr operand;
 };
@@ -69,7 +74,7 @@ struct KeyList {
 };
 
 struct Condition {
-    std::variant<Comparison, NullTest, Between, Like, InList, InQuery, Negated, Junction, KeyList> node;
+    std::variant<Comparison, NullTest, Between, Like, InList, InQuery, Exists, Negated, Junction, KeyList> node;
 };
 
 } // namespace vortaq::sql

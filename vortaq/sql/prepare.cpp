@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Parses, checks what is due, binds.
+// Parses, checks what is due, binds, drops needless joins.
 #include "vortaq/sql/prepare.h"
 
 #include "vortaq/sql/binder.h"
 #include "vortaq/sql/diagnostic.h"
 #include "vortaq/sql/parser.h"
+#include "vortaq/sql/semijoin.h"
 
 namespace vortaq::sql {
 
@@ -15,7 +16,9 @@ Statement prepare(std::string_view text, const Catalog &catalog, Due due)
         throw SqlError(SqlError::Reason::Syntax, "此处只能执行查询语句");
     if (due == Due::Change && tree.isQuery())
         throw SqlError(SqlError::Reason::Syntax, "此处不能执行查询语句");
-    return bind(tree, text, catalog);
+    Statement statement = bind(tree, text, catalog);
+    reduceToSemiJoins(statement);
+    return statement;
 }
 
 } // namespace vortaq::sql

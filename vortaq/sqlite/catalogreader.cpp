@@ -72,9 +72,11 @@ std::unique_ptr<StoredTable> CatalogReader::read(std::string_view tableName) con
 
 void CatalogReader::readColumns(StoredTable &table) const
 {
-    PreparedStatement statement(m_connection, "select name, type, pk from pragma_table_info(?1, 'main') order by cid");
+    PreparedStatement statement(m_connection,
+                                "select name, type, pk, \"notnull\" from pragma_table_info(?1, 'main') order by cid");
     statement.bindText(1, table.name);
     std::vector<std::pair<std::int64_t, std::size_t>> keyColumns; // place in the key, place in the table
+    bool keyTellsApart = true; // SQLite's keys may hold nulls, and texts that differ in letter case only
     while (statement.step()) {
         const std::string_view declared = statement.text(1);
         const auto type = declared.empty() || declared == "TEXT" ? sql::varcharType(sql::longestVarchar)
@@ -85,11 +87,14 @@ void CatalogReader::readColumns(StoredTable &table) const
             keyColumns.emplace_back(statement.integer(2), table.columns.size());
         table.columns.push_back({std::string(statement.text(0)), *type});
         table.noCase.push_back(comparesWithoutCase(m_connection.handle(), table.name, table.columns.back().name));
+        const bool tellsApart = statement.integer(3) != 0 && (type->kind != sql::Kind::Varchar || table.noCase.back());
+        keyTellsApart = keyTellsApart && (statement.integer(2) == 0 || tellsApart);
     }
     std::sort(keyColumns.begin(), keyColumns.end());
     table.indexed.resize(table.columns.size());
     for (const auto &[place, column] : keyColumns) {
-        table.primaryKey.push_back(column);
+        if (keyTellsApart)
+            table.primaryKey.push_back(column);
         table.indexed[column] = true;
     }
 }

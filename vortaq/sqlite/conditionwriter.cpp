@@ -79,6 +79,13 @@ void StatementWriter::condition(const sql::InQuery &inQuery)
     m_text += "))";
 }
 
+void StatementWriter::condition(const sql::Exists &exists)
+{
+    m_text += "EXISTS (";
+    query(*exists.subquery.query);
+    m_text += ')';
+}
+
 void StatementWriter::condition(const sql::Negated &negated)
 {
     m_text += "(NOT ";

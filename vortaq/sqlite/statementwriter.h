@@ -73,6 +73,7 @@ private:
     void condition(const sql::Like &like);
     void condition(const sql::InList &list);
     void condition(const sql::InQuery &query);
+    void condition(const sql::Exists &exists);
     void condition(const sql::Negated &negated);
     void condition(const sql::Junction &junction);
     void condition(const sql::KeyList &keys);

@@ -40,6 +40,7 @@ private:
     std::string text(const Like &like);
     std::string text(const InList &in);
     std::string text(const InQuery &in);
+    std::string text(const Exists &exists);
     std::string text(const Negated &negated);
     std::string text(const Junction &junction);
     std::string text(const KeyList &keys);
@@ -239,6 +240,11 @@ std::string Dumper::text(const InList &in)
 std::string Dumper::text(const InQuery &in)
 {
     return text(*in.operand) + " " + negation(in.negated) + "in " + text(in.subquery, {});
+}
+
+std::string Dumper::text(const Exists &exists)
+{
+    return "exists " + text(exists.subquery, {});
 }
 
 std::string Dumper::text(const Negated &negated)

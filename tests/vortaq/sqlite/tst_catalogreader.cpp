@@ -60,6 +60,15 @@ TEST_F(Catalogue, ATableWithoutRowNumbers)
     EXPECT_EQ(describe("Own"), "Own: A int key1 indexed;");
 }
 
+// SQLite lets such keys hold nulls, or texts that are one text to the hospital's statements.
+TEST_F(Catalogue, AKeyThatDoesNotTellRowsApartIsNone)
+{
+    m_database.run("create table Nulls (A int not null, B int, primary key (A, B))");
+    EXPECT_EQ(describe("Nulls"), "Nulls with row numbers: A int indexed; B int indexed;");
+    m_database.run("create table Cases (A int not null, B varchar(9) not null, primary key (A, B))");
+    EXPECT_EQ(describe("Cases"), "Cases with row numbers: A int indexed; B varchar(9) indexed;");
+}
+
 TEST_F(Catalogue, AColumnCalledRowidHidesTheRowNumber)
 {
     m_database.run("create table Own (RowId int)");

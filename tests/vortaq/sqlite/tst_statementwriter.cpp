@@ -49,6 +49,13 @@ TEST_F(Written, TextGetsItsCollationWhereTheColumnHasNone)
               R"(SELECT s1."name" AS c0 FROM "SysObjects" AS s1 WHERE (s1."name" COLLATE NOCASE = 'a''b'))");
 }
 
+TEST_F(Written, AQuestionForAMatch)
+{
+    EXPECT_EQ(
+        query("select a.Fee from o_CbZyZdb a,o_CbZyBxDj b where a.BillNo=b.BillNo group by a.BillCode,a.BillNo,a.Fee"),
+        R"(SELECT s1."Fee" AS c0 FROM "o_CbZyZdb" AS s1 WHERE EXISTS (SELECT 1 AS c0 FROM "o_CbZyBxDj" AS s2 WHERE (s1."BillNo" = s2."BillNo")))");
+}
+
 TEST_F(Written, OneMomentForTheWholeStatement)
 {
     const sqlite::WrittenStatement written =
