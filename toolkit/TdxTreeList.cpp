@@ -137,6 +137,11 @@ void TdxTreeList::endUpdate()
     setUpdatesEnabled(true);
 }
 
+void TdxTreeList::setValueFields(QStringList fields)
+{
+    d->valueFields = std::move(fields);
+}
+
 void TdxTreeList::clearNodes()
 {
     beginUpdate();

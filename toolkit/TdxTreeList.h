@@ -33,15 +33,16 @@ public:
     // ---- columns
     /// Replaces all columns and clears the list. Column objects become children of the list under their names.
     void setColumns(const std::vector<toolkit::ColumnDefinition> &columns);
+    /// Fields that rows of a packet hold at the positions behind the columns; an empty name for none.
+    void setValueFields(QStringList fields);
     [[nodiscard]] int columnCount() const;
     [[nodiscard]] TdxTreeListColumn *column(int position) const;
     /// Null when there is none of that component name.
     [[nodiscard]] TdxTreeListColumn *columnByName(const QString &name) const;
     /// The first `columns` columns stay in place when the others scroll sideways (fewer in a list too narrow for them).
     void setFixedBand(int columns);
-    /// Whether a click on a header sorts (default: yes): ascending, then descending, then as loaded. Numbers sort as
-    /// numbers in currency columns and wherever all texts of the column are numbers, Chinese by pinyin; equal rows,
-    /// and so all rows of a column without values, stand as loaded. A chosen sort stays through reloads.
+    /// Whether a click on a header sorts (default: yes): ascending, descending, then as loaded. Amounts, and columns of
+    /// nothing but numbers, sort as numbers, Chinese by pinyin; equal rows stand as loaded. Reloads keep the sort.
     void setAutoSort(bool enabled);
 
     // ---- nodes
@@ -51,8 +52,8 @@ public:
     void clearNodes();
     /// Adds a node behind the last child of `parent` (behind the last top-level node when it is null).
     TdxTreeListNode addNode(const TdxTreeListNode &parent = {});
-    /// Adds one top-level node for each row of the packet. A column reads the packet column named by its field;
-    /// throws std::runtime_error when a field is missing from a packet that has columns.
+    /// Adds one top-level node for each row of the packet. A column, or value, reads the packet column named by its
+    /// field; throws std::runtime_error when a field is missing from a packet that has columns.
     void addRows(const automation::DataPacketPtr &rows);
     /// The same for one row, on any level.
     TdxTreeListNode addRow(const automation::DataPacketPtr &rows, int row, const TdxTreeListNode &parent = {});

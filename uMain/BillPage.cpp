@@ -15,7 +15,6 @@
 #include "uMain/billtrees.h"
 #include "uMain/columns.h"
 #include "uMain/menus.h"
-#include "uMain/trees.h"
 #include "ui_BillPage.h"
 
 #include <QMenu>
@@ -39,7 +38,7 @@ BillPage::BillPage(Workbench &workbench, TClientDataSet &scratch, const BillPage
 {
     m_ui->setupUi(this);
     applyNames();
-    setUpTree(*m_ui->tree, m_kind.treeColumn);
+    setUpBillTree(*m_ui->tree, m_kind.treeColumn);
     setUpGrid();
     setUpMenu();
     m_ui->splitter->setStretchFactor(1, 1);

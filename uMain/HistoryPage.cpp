@@ -15,7 +15,6 @@
 #include "uMain/billtrees.h"
 #include "uMain/columns.h"
 #include "uMain/menus.h"
-#include "uMain/trees.h"
 #include "uMain/workbench.h"
 #include "ui_HistoryPage.h"
 
@@ -30,7 +29,9 @@ HistoryPage::HistoryPage(Workbench &workbench, QWidget *parent)
     m_ui->setupUi(this);
     setObjectName(QStringLiteral("TabSheet2"));
     CDSOld->setObjectName(QStringLiteral("CDSOld"));
-    setUpTree(*m_ui->dxTLOldOrg, "dxTLOldOrgInfo");
+    setUpBillTree(*m_ui->dxTLOldOrg, "dxTLOldOrgInfo",
+                  {QStringLiteral("Fee"), QStringLiteral("CanFreeFee"), QStringLiteral("CheckFee1"),
+                   QStringLiteral("CheckFee"), QStringLiteral("Type"), QStringLiteral("CheckStatus")});
     m_ui->dxTLOldBill->setColumns(historyColumns());
     m_ui->dxTLOldBill->setFixedBand(BillFixedBand);
     m_ui->splitterOld->setStretchFactor(1, 1);
@@ -62,14 +63,9 @@ void HistoryPage::LoadOldBills()
     (void)orgCode(); // asked once for each half of the statement
     m_workbench.LoadDataSet(data::historyBills(orgCode()), *CDSOld);
     rebuildBillTree(*m_ui->dxTLOldOrg, *CDSOld, [this](TdxTreeListNode &bill) {
-        const QString status = CDSOld->text(QStringLiteral("CheckStatus"));
-        bill.setValue(billnode::Text, data::historyBillCaption(CDSOld->text(QStringLiteral("WriteDate")), status));
-        bill.setValue(billnode::Fee, CDSOld->text(QStringLiteral("Fee")));
-        bill.setValue(billnode::CanFreeFee, CDSOld->text(QStringLiteral("CanFreeFee")));
-        bill.setValue(billnode::CheckFee1, CDSOld->text(QStringLiteral("CheckFee1")));
-        bill.setValue(billnode::CheckFee, CDSOld->text(QStringLiteral("CheckFee")));
-        bill.setValue(billnode::Type, CDSOld->text(QStringLiteral("Type")));
-        bill.setValue(billnode::CheckStatus, status);
+        bill.setValue(
+            billnode::Text,
+            data::historyBillCaption(CDSOld->text(QStringLiteral("WriteDate")), bill.text(billnode::CheckStatus)));
     });
     dxTLOldOrgChangeNode(m_ui->dxTLOldOrg->topNode());
 }

@@ -4,6 +4,7 @@
 #include "data/captions.h"
 #include "host/clientdataset.h"
 #include "toolkit/TreeListUpdate.h"
+#include "uMain/trees.h"
 
 namespace {
 
@@ -26,6 +27,12 @@ TdxTreeListNode addGroup(TdxTreeList &tree, const QString &code, const QString &
 
 } // namespace
 
+void setUpBillTree(TdxTreeList &tree, const char *columnName, const QStringList &fields)
+{
+    setUpTree(tree, columnName);
+    tree.setValueFields(QStringList{QString(), QStringLiteral("BillCode"), QStringLiteral("BillNo")} + fields);
+}
+
 void rebuildBillTree(TdxTreeList &tree, TClientDataSet &bills, const std::function<void(TdxTreeListNode &bill)> &fill)
 {
     const TreeListUpdate update(tree);
@@ -38,10 +45,8 @@ void rebuildBillTree(TdxTreeList &tree, TClientDataSet &bills, const std::functi
             group = addGroup(tree, code, bills.text(QStringLiteral("BillName")));
             lastCode = code;
         }
-        TdxTreeListNode bill = tree.addNode(group);
+        TdxTreeListNode bill = tree.addRow(bills.packet(), bills.packetRow(), group);
         bill.setValue(billnode::Level, QString::fromUtf16(BillLevel));
-        bill.setValue(billnode::BillCode, code);
-        bill.setValue(billnode::BillNo, bills.text(QStringLiteral("BillNo")));
         bill.setImages(BillImage, SelectedBillImage);
         fill(bill);
     }

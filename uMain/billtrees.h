@@ -4,7 +4,7 @@
 
 #include "data/billkey.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -27,8 +27,11 @@ inline constexpr int Type = 8; ///< 1 tables in use, 2 archive
 inline constexpr int CheckStatus = 9;
 } // namespace billnode
 
+/// A tree of bills with the column given. `fields`: what a bill node holds from billnode::Fee on.
+void setUpBillTree(TdxTreeList &tree, const char *columnName, const QStringList &fields = {});
+
 /// Rebuilds the tree from the loaded bills: a new group whenever BillCode changes from one row to the next. `fill`
-/// gives a bill node, which holds level and key already, its text and further values; the data set stands on its row.
+/// gives a bill node, which holds level, key and fields already, its text; the data set stands on its row.
 void rebuildBillTree(TdxTreeList &tree, TClientDataSet &bills, const std::function<void(TdxTreeListNode &bill)> &fill);
 
 [[nodiscard]] bool isBillNode(const TdxTreeListNode &node);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Workload "history": the tree of 20,000 bills over a million records, from the statement to its first painted rows,
-// and opening a bill of 500 records. Prints ratios; ends with 1 when a bound is missed. Run a release build with
-// QT_QPA_PLATFORM=offscreen; the database takes a while and is kept under the name given, or not kept.
+// and opening a bill of 500 records: until they stand in the grid with their totals, and until they are painted.
+// Painting a screen takes longer than reading 500 records, so the latter has a repaint of the same screen in its lower
+// bound. Prints ratios; ends with 1 when a bound is missed. Run a release build with QT_QPA_PLATFORM=offscreen; the
+// database takes a while and is kept under the name given, or not kept.
 #include "bench/uMain/bareloop.h"
 #include "bench/uMain/measuredhost.h"
 #include "bench/vortaq/hospital.h"
@@ -101,6 +103,20 @@ void paint()
     QCoreApplication::processEvents();
 }
 
+void repaint(QWidget &page)
+{
+    for (QWidget *widget : page.findChildren<QWidget *>())
+        widget->update();
+    paint();
+}
+
+bool report(const char *what, const std::vector<double> &own, const std::vector<double> &bare, double bound)
+{
+    const double ratio = median(own) / median(bare);
+    std::printf("  %-62s %6.2f  (at most %.0f)\n", what, ratio, bound);
+    return ratio <= bound;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -120,33 +136,34 @@ int main(int argc, char **argv)
     page.show();
     page.start();
     paint();
-    auto &tree = *page.findChild<TdxTreeList *>(QStringLiteral("dxTLOldOrg"));
+    auto &bills = *page.findChild<TdxTreeList *>(QStringLiteral("dxTLOldOrg"));
     auto &grid = *page.findChild<TdxTreeList *>(QStringLiteral("dxTLOldBill"));
 
     std::vector<double> bareBills;
-    std::vector<double> ownTree;
+    std::vector<double> tree;
     std::vector<double> bareRecords;
-    std::vector<double> ownOpening;
+    std::vector<double> opening;
+    std::vector<double> bareRecordsAndPaint;
+    std::vector<double> openingAndPaint;
     for (int round = 0; round < Rounds; ++round) {
         bareBills.push_back(milliseconds([&] { (void)bench::stepAndCopy(database.get(), BareBills); }));
-        ownTree.push_back(milliseconds([&] {
+        tree.push_back(milliseconds([&] {
             page.LoadOldBills();
             paint();
         }));
         bareRecords.push_back(milliseconds([&] { (void)bench::stepAndCopy(database.get(), BareRecords); }));
-        ownOpening.push_back(milliseconds([&] {
-            tree.setFocusedNode(tree.topNode().child(0));
-            paint();
-        }));
-        if (tree.topNode().childCount() != Bills || grid.count() != LargeBillRecords)
+        opening.push_back(milliseconds([&] { bills.setFocusedNode(bills.topNode().child(0)); }));
+        openingAndPaint.push_back(opening.back() + milliseconds(paint));
+        bareRecordsAndPaint.push_back(bareRecords.back() + milliseconds([&] { repaint(page); }));
+        if (bills.topNode().childCount() != Bills || grid.count() != LargeBillRecords)
             std::abort();
     }
-    const double treeRatio = median(ownTree) / median(bareBills);
-    const double openingRatio = median(ownOpening) / median(bareRecords);
     std::printf("history, %d bills over a million records\n", Bills);
-    std::printf("  tree, to its first paint / bare step and copy              %6.2f  (at most %.0f)\n", treeRatio,
-                TreeBound);
-    std::printf("  opening a bill of %d, to its first paint / bare step and copy %6.2f  (at most %.0f)\n",
-                LargeBillRecords, openingRatio, OpeningBound);
-    return treeRatio <= TreeBound && openingRatio <= OpeningBound ? 0 : 1;
+    const bool kept[] = {
+        report("tree, to its first paint / bare step and copy", tree, bareBills, TreeBound),
+        report("opening a bill of 500 / bare step and copy", opening, bareRecords, OpeningBound),
+        report("the same to its first paint / bare step and copy, a repaint", openingAndPaint, bareRecordsAndPaint,
+               OpeningBound),
+    };
+    return kept[0] && kept[1] && kept[2] ? 0 : 1;
 }

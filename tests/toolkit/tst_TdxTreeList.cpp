@@ -53,6 +53,25 @@ TEST_F(List, ReplacesColumns)
     EXPECT_EQ(list.node(1).text(0), QStringLiteral("5岁"));
 }
 
+TEST_F(List, HoldsFieldsBehindItsColumns)
+{
+    list.setColumns({{.name = "other", .caption = "别的"}});
+    list.setValueFields({QString(), QStringLiteral("age")});
+    load();
+    EXPECT_EQ(list.node(1).text(0), QString());
+    EXPECT_EQ(list.node(1).value(1), QVariant());
+    EXPECT_EQ(list.node(1).value(2), QVariant(QStringLiteral("5岁")));
+    list.node(1).setValue(2, QStringLiteral("6岁"));
+    EXPECT_EQ(list.node(1).text(2), QStringLiteral("6岁"));
+    EXPECT_EQ(list.model()->columnCount(), 1);
+}
+
+TEST_F(List, AFieldBehindTheColumnsHasToBeThere)
+{
+    list.setValueFields({QStringLiteral("NoSuchField")});
+    EXPECT_THROW(load(), std::runtime_error);
+}
+
 TEST_F(List, ReadsRowsByFieldWhateverTheLetterCase)
 {
     load();

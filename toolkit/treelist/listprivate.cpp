@@ -45,13 +45,15 @@ int TdxTreeList::Private::nodeOf(const TdxTreeListNode &node) const
 std::vector<int> TdxTreeList::Private::packetColumns(const automation::DataPacket &packet) const
 {
     std::vector<int> found;
-    found.reserve(columns.size());
-    for (const TdxTreeListColumn *column : columns) {
-        const QString field = column->field();
+    const auto find = [&](const QString &field) {
         found.push_back(field.isEmpty() ? -1 : packet.columnIndex(field));
         if (!field.isEmpty() && found.back() < 0)
             throw missingColumn(field);
-    }
+    };
+    for (const TdxTreeListColumn *column : columns)
+        find(column->field());
+    for (const QString &field : valueFields)
+        find(field);
     return found;
 }
 

@@ -28,7 +28,7 @@ public:
     }
     /// None for a null handle; throws std::logic_error for one whose node is gone or in another list.
     [[nodiscard]] int nodeOf(const TdxTreeListNode &node) const;
-    /// Packet column of each list column's field; throws std::runtime_error when one is missing.
+    /// Packet column of each position's field; throws std::runtime_error when one is missing.
     [[nodiscard]] std::vector<int> packetColumns(const automation::DataPacket &packet) const;
     /// Number of the packet in the store.
     [[nodiscard]] int sourceOf(const automation::DataPacketPtr &packet);
@@ -76,6 +76,7 @@ public:
     toolkit::treelist::ColumnFit fit;
     std::vector<std::unique_ptr<TdxTreeListColumn>> ownedColumns;
     std::vector<TdxTreeListColumn *> columns; // the same
+    QStringList valueFields; // of the positions behind the columns
 
     int updates = 0;
     bool resetting = false;

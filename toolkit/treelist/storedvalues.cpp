@@ -4,16 +4,30 @@
 
 namespace toolkit::treelist {
 
+namespace {
+
+// The integer 2 and the text "2" are different values with the same text: the type has to be equal as well.
+bool same(const QVariant &left, const QVariant &right)
+{
+    if (left.metaType() != right.metaType())
+        return false;
+    if (left.metaType() == QMetaType::fromType<QString>()) // nearly always; the general way is many times slower
+        return *static_cast<const QString *>(left.constData()) == *static_cast<const QString *>(right.constData());
+    return left == right;
+}
+
+} // namespace
+
 const QVariant &StoredValues::value(int node) const
 {
     const Code code = m_codes[static_cast<std::size_t>(node)];
-    return code == Own ? m_own.at(node) : shared(code).value;
+    return code == Own ? own(node) : shared(code).value;
 }
 
 QString StoredValues::text(int node) const
 {
     const Code code = m_codes[static_cast<std::size_t>(node)];
-    return code == Own ? m_own.at(node).toString() : shared(code).text;
+    return code == Own ? own(node).toString() : shared(code).text;
 }
 
 std::string_view StoredValues::utf8(int node, std::string &scratch) const
@@ -21,7 +35,7 @@ std::string_view StoredValues::utf8(int node, std::string &scratch) const
     const Code code = m_codes[static_cast<std::size_t>(node)];
     if (code != Own)
         return shared(code).utf8;
-    scratch = m_own.at(node).toString().toStdString();
+    scratch = own(node).toString().toStdString();
     return scratch;
 }
 
@@ -31,10 +45,13 @@ void StoredValues::set(int node, const QVariant &value)
     if (at >= m_codes.size())
         m_codes.resize(at + 1, Unset);
     const Code code = codeFor(value);
-    if (code == Own)
-        m_own.insert_or_assign(node, value);
-    else if (m_codes[at] == Own)
-        m_own.erase(node);
+    if (code == Own) {
+        if (at >= m_own.size())
+            m_own.resize(at + 1);
+        m_own[at] = value;
+    } else if (m_codes[at] == Own) {
+        m_own[at] = QVariant();
+    }
     m_codes[at] = code;
 }
 
@@ -47,9 +64,8 @@ void StoredValues::setAll(int count, const QVariant &value)
 
 StoredValues::Code StoredValues::codeFor(const QVariant &value)
 {
-    // The integer 2 and the text "2" are different values with the same text: the type has to be equal as well.
     for (std::size_t i = 0; i < m_shared.size(); ++i) {
-        if (m_shared[i].value.metaType() == value.metaType() && m_shared[i].value == value)
+        if (same(m_shared[i].value, value))
             return static_cast<Code>(i + 1);
     }
     if (m_shared.size() == MostShared)

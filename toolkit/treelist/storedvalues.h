@@ -7,7 +7,6 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace toolkit::treelist {
@@ -41,12 +40,13 @@ private:
         std::string utf8;
     };
 
+    [[nodiscard]] const QVariant &own(int node) const { return m_own[static_cast<std::size_t>(node)]; }
     [[nodiscard]] Code codeFor(const QVariant &value);
     [[nodiscard]] const Shared &shared(Code code) const noexcept { return m_shared[code - 1U]; }
 
     std::vector<Code> m_codes; // a byte a node: Unset, Own, or 1 + position in m_shared
     std::vector<Shared> m_shared;
-    std::unordered_map<int, QVariant> m_own;
+    std::vector<QVariant> m_own; // by node; as long as the last node with a value of its own needs
 };
 
 } // namespace toolkit::treelist
