@@ -25,22 +25,37 @@ function(tarnwell_library name)
   target_link_libraries(${name} PUBLIC tarnwell_options ${arg_LINK})
 endfunction()
 
-# tarnwell_test(NAME LABEL unit|integration SOURCES ... [LINK ...] [ENVIRONMENT ...]): one test executable, one CTest
+# tarnwell_test(NAME LABEL unit|integration SOURCES ... [LINK ...] [ENVIRONMENT ...] [SHARDS n]): one test executable, one CTest
 # entry a test case. Tests run offscreen with one locale and time zone, from a folder of their own.
 function(tarnwell_test name)
-  cmake_parse_arguments(arg "" "LABEL" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(arg "" "LABEL;SHARDS" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE tarnwell_options ${arg_LINK} GTest::gtest GTest::gmock)
-  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
   set(sanitizer_options "ASAN_OPTIONS=detect_stack_use_after_return=1;UBSAN_OPTIONS=print_stacktrace=1")
   # Scratch databases wait for the disk at every commit; in memory they do not.
   if(EXISTS /dev/shm)
     list(APPEND arg_ENVIRONMENT TMPDIR=/dev/shm)
   endif()
-  set_tests_properties(
-    ${name}
-    PROPERTIES LABELS "${arg_LABEL}" TIMEOUT 300 ENVIRONMENT
-               "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Asia/Shanghai;${sanitizer_options};${arg_ENVIRONMENT}")
+  set(shards 1)
+  if(arg_SHARDS)
+    set(shards ${arg_SHARDS})
+  endif()
+  foreach(shard RANGE 1 ${shards})
+    set(entry ${name})
+    if(arg_SHARDS)
+      set(entry ${name}_${shard})
+    endif()
+    math(EXPR index "${shard} - 1")
+    add_test(NAME ${entry} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(
+      ${entry}
+      PROPERTIES
+        LABELS "${arg_LABEL}"
+        TIMEOUT 300
+        ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Asia/Shanghai;GTEST_TOTAL_SHARDS=${shards};GTEST_SHARD_INDEX=${index};${sanitizer_options};${arg_ENVIRONMENT}"
+    )
+  endforeach()
 endfunction()
 
 if(TARNWELL_TESTS)

@@ -25,16 +25,20 @@ public:
     void hint(const QString &) override { }
 };
 
-class Database {
+Desk *sitting = nullptr;
+
+} // namespace
+
+class Desk::OtherProgram {
 public:
-    explicit Database(const QString &file)
+    explicit OtherProgram(const QString &file)
     {
         if (sqlite3_open(file.toUtf8().constData(), &m_database) != SQLITE_OK)
             throw std::runtime_error("cannot open the database");
     }
-    ~Database() { sqlite3_close(m_database); }
-    Database(const Database &) = delete;
-    Database &operator=(const Database &) = delete;
+    ~OtherProgram() { sqlite3_close(m_database); }
+    OtherProgram(const OtherProgram &) = delete;
+    OtherProgram &operator=(const OtherProgram &) = delete;
 
     QStringList rows(const char *sql)
     {
@@ -61,15 +65,12 @@ private:
     sqlite3 *m_database = nullptr;
 };
 
-Desk *sitting = nullptr;
-
-} // namespace
-
 Desk::Desk(const Options &options)
     : m_databaseFile(options.database.isEmpty() ? m_folder.filePath(QStringLiteral("hospital.db")) : options.database)
 {
     if (options.database.isEmpty())
         createSmallHospital(m_databaseFile);
+    m_otherProgram = std::make_unique<OtherProgram>(m_databaseFile);
     if (options.setupFile) {
         QFile setup(m_folder.filePath(QStringLiteral("setup.ini")));
         if (!setup.open(QIODevice::WriteOnly) || setup.write(options.setupFile->toUtf8()) < 0)
@@ -122,12 +123,12 @@ QWidget &Desk::open()
 
 void Desk::sqlite(const char *sql) const
 {
-    (void)Database(m_databaseFile).rows(sql);
+    (void)m_otherProgram->rows(sql);
 }
 
 QStringList Desk::rows(const char *sql) const
 {
-    return Database(m_databaseFile).rows(sql);
+    return m_otherProgram->rows(sql);
 }
 
 QStringList Desk::contents() const

@@ -51,7 +51,8 @@ public:
     [[nodiscard]] const QStringList &errors() const { return m_errors; }
     [[nodiscard]] const QString &databaseFile() const { return m_databaseFile; }
 
-    /// Runs SQLite's own SQL on the file, past engine and module, as another program would.
+    /// Runs SQLite's own SQL on the file, past engine and module, as another program would: over one connection, which
+    /// keeps its temporary tables.
     void sqlite(const char *sql) const;
     /// The rows of a query in SQLite's own SQL, cells joined by "|"; null reads "null".
     [[nodiscard]] QStringList rows(const char *sql) const;
@@ -59,8 +60,11 @@ public:
     [[nodiscard]] QStringList contents() const;
 
 private:
+    class OtherProgram;
+
     QTemporaryDir m_folder;
     QString m_databaseFile;
+    std::unique_ptr<OtherProgram> m_otherProgram;
     QStringList m_errors;
     std::shared_ptr<FailingEngine> m_engine;
     std::unique_ptr<vortaq::HostObjects> m_objects;
