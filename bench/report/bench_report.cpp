@@ -2,6 +2,7 @@
 // How long a clerk waits for a fee list of 5,000 lines: its first page on the screen, and the whole as a PDF file
 // beside the same list as HTML through QTextDocument, in the same run. Prints ratios; ends with 1 when a bound is
 // missed. Run a release build with QT_QPA_PLATFORM=offscreen.
+#include "bench/support/measuring.h"
 #include "report/document.h"
 #include "report/output/paint.h"
 #include "report/output/print.h"
@@ -11,7 +12,6 @@
 #include "tests/report/samplepaper.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
@@ -20,26 +20,13 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <memory>
 
 namespace {
 
-constexpr int Lines = 5000;
+using bench::shortest;
 
-/// Shortest of several runs, in milliseconds.
-double shortest(int runs, const std::function<void()> &work)
-{
-    double best = 0;
-    for (int run = 0; run < runs; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        const double time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-        best = run == 0 ? time : std::min(best, time);
-    }
-    return best;
-}
+constexpr int Lines = 5000;
 
 std::unique_ptr<report::Document> makeDocument()
 {

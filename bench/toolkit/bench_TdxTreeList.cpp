@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // How long a clerk waits for the candidate list at 100,000 rows, each workload beside a peer measured in the same run.
 // Prints ratios; ends with 1 when a bound is missed. Run a release build with QT_QPA_PLATFORM=offscreen.
+#include "bench/support/measuring.h"
 #include "toolkit/TdxTreeList.h"
 #include "toolkit/displayformat.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTreeWidget>
@@ -13,10 +13,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <functional>
 #include <string>
 
 namespace {
+
+using bench::shortest;
 
 constexpr int Rows = 100000;
 constexpr int Columns = 30;
@@ -72,20 +73,6 @@ Definitions makeColumns(std::vector<std::string> &names)
                            .kind = isAmount(column) ? toolkit::ColumnKind::Currency : toolkit::ColumnKind::Text});
     }
     return columns;
-}
-
-/// Shortest of several runs, in milliseconds.
-double shortest(int runs, const std::function<void()> &work)
-{
-    double best = 0;
-    for (int run = 0; run < runs; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        const double time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-        best = run == 0 ? time : std::min(best, time);
-    }
-    return best;
 }
 
 class PaintCounter final : public QObject {

@@ -2,9 +2,11 @@
 // Workload "candidate page": 100,000 records of 30 columns from the page's statement to its first painted rows, against
 // SQLite's bare step and copy; and what it costs to fill the usual widget. Prints ratios; ends with 1 when a bound is
 // missed. Run a release build with QT_QPA_PLATFORM=offscreen.
-#include "bench/uMain/bareloop.h"
-#include "bench/uMain/measuredhost.h"
-#include "bench/vortaq/hospital.h"
+#include "bench/support/candidatequery.h"
+#include "bench/support/hospital.h"
+#include "bench/support/measuredhost.h"
+#include "bench/support/measuring.h"
+#include "bench/support/plainsqlite.h"
 #include "data/statements/candidates.h"
 #include "host/clientdataset.h"
 #include "host/loaddataset.h"
@@ -17,44 +19,22 @@
 #include <QApplication>
 #include <QTreeWidget>
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 
 namespace {
 
-using vortaq::bench::Hospital;
-using vortaq::bench::median;
-using vortaq::bench::milliseconds;
-using vortaq::bench::Plain;
+using bench::Hospital;
+using bench::median;
+using bench::milliseconds;
+using bench::peakMemory;
 
 constexpr int Candidates = 100000;
-constexpr int Columns = 30;
+constexpr int Columns = bench::CandidateColumns;
 constexpr int Rounds = 5;
 constexpr double TimeBound = 1.6;
 constexpr double WidgetBound = 10;
 constexpr double MemoryBound = 2;
-
-// The page's statement with what SQLite itself has for it.
-const char *const Bare =
-    "select OrgCode,CoopMedCode,IDNo,DiagNo,HospitalCode,HospitalName,PatientName,HouseHolder,Sex,Age||AgeUnit,InDate,"
-    "DayCount,OutDate,PatientNo,IllCode,IllName,printf('%15.2f',TotalFee),printf('%15.2f',CanFreeFee),"
-    "printf('%15.2f',FreeFee),DoctorName,CheckOneFee,InputerCode,InputerName,InterfaceIn,AreaCode,"
-    "case when CheckerCode1 is null then '2' else '1' end,ExpressionsID,LimitDef,Ke,"
-    "case ExpenseKind when '21' then '普通住院' when '22' then '单病种住院' when '23' then '正常分娩住院' "
-    "when '29' then '其他住院' when '90' then '其他' end from o_CbZyBxDj where BillNo is null and OutDate is not null "
-    "order by JsDate";
-
-Plain openPlain(const Hospital &hospital)
-{
-    Plain database = hospital.plain();
-    bench::tuneAsTheEngineDoes(database.get());
-    return database;
-}
 
 /// The page in a window of its own, as the main form shows it.
 class Page {
@@ -124,26 +104,13 @@ void fillWidget(QTreeWidget &widget, const automation::DataPacket &packet)
     widget.viewport()->repaint();
 }
 
-/// The most memory that a process of its own needs for the work, in KiB.
-double peakMemory(const std::function<void()> &work)
-{
-    const pid_t process = fork();
-    if (process == 0) {
-        work();
-        _exit(0);
-    }
-    rusage usage{};
-    int status = 0;
-    if (wait4(process, &status, 0, &usage) != process || status != 0)
-        std::abort();
-    return static_cast<double>(usage.ru_maxrss);
-}
-
 /// To be asked before this process has a window of its own.
 double memoryRatio(const Hospital &hospital, int argc, char **argv)
 {
-    const double idle = peakMemory([&] { (void)openPlain(hospital); });
-    const double bare = peakMemory([&] { (void)bench::stepAndCopy(openPlain(hospital).get(), Bare); }) - idle;
+    const double idle = peakMemory([&] { (void)bench::openTuned(hospital.file()); });
+    const double bare =
+        peakMemory([&] { (void)bench::stepAndCopy(bench::openTuned(hospital.file()).get(), bench::BareCandidates); })
+        - idle;
     const auto page = [&](bool loaded) {
         return peakMemory([&] {
             const QApplication application(argc, argv);
@@ -181,11 +148,11 @@ int main(int argc, char **argv)
 
     const QApplication application(argc, argv);
     Page page(hospital);
-    const Plain database = openPlain(hospital);
+    const bench::Plain database = bench::openTuned(hospital.file());
     std::vector<double> own;
     std::vector<double> bare;
     for (int round = 0; round < Rounds; ++round) {
-        bare.push_back(milliseconds([&] { (void)bench::stepAndCopy(database.get(), Bare); }));
+        bare.push_back(milliseconds([&] { (void)bench::stepAndCopy(database.get(), bench::BareCandidates); }));
         own.push_back(milliseconds([&] { page.load(); }));
     }
     const double time = median(own) / median(bare);

@@ -2,28 +2,29 @@
 // Workload "fee detail": the dialog over a stay of 20,000 fee lines, from the double-click to its first painted rows,
 // and switching between all fees and those of one type. Prints ratios; ends with 1 when a bound is missed. Run a
 // release build with QT_QPA_PLATFORM=offscreen.
-#include "bench/uMain/bareloop.h"
-#include "bench/uMain/measuredhost.h"
-#include "bench/vortaq/hospital.h"
+#include "bench/support/hospital.h"
+#include "bench/support/measuredhost.h"
+#include "bench/support/measuring.h"
+#include "bench/support/plainsqlite.h"
 #include "toolkit/TdxTreeList.h"
 #include "uDjDetail/TfrmDjDetail.h"
 #include "vortaq/sqlite/sqliteengine.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QRadioButton>
 #include <QTimer>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
 
 namespace {
 
-using vortaq::bench::Hospital;
-using vortaq::bench::milliseconds;
-using vortaq::bench::Plain;
+using bench::Hospital;
+using bench::milliseconds;
+using bench::Plain;
 
 constexpr int Lines = 20000;
 constexpr int Types = 10;
@@ -57,7 +58,8 @@ constexpr std::size_t TypeColumn = 9;
 /// Opens the dialog, waits for its first paint, works in it and closes it. Returns the time until that paint.
 double opening(QWidget &window, const std::function<void(QDialog &)> &work)
 {
-    const auto begin = std::chrono::steady_clock::now();
+    QElapsedTimer timer;
+    timer.start();
     double time = 0;
     QTimer::singleShot(0, &window, [&] {
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
@@ -65,7 +67,7 @@ double opening(QWidget &window, const std::function<void(QDialog &)> &work)
             std::abort();
         QCoreApplication::processEvents();
         dialog->repaint();
-        time = vortaq::bench::Milliseconds(std::chrono::steady_clock::now() - begin).count();
+        time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
         work(*dialog);
         dialog->reject();
     });
@@ -166,9 +168,8 @@ int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     const Hospital hospital(100, 10);
-    const Plain database = hospital.plain();
-    vortaq::bench::run(database.get(), FeeLines);
-    bench::tuneAsTheEngineDoes(database.get());
+    const Plain database = bench::openTuned(hospital.file());
+    bench::run(database.get(), FeeLines);
 
     const bench::MeasuredHost host(vortaq::openSqlite(hospital.file()));
     QWidget window;

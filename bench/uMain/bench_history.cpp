@@ -4,16 +4,14 @@
 // Painting a screen takes longer than reading 500 records, so the latter has a repaint of the same screen in its lower
 // bound. Prints ratios; ends with 1 when a bound is missed. Run a release build with QT_QPA_PLATFORM=offscreen; the
 // database takes a while and is kept under the name given, or not kept.
-#include "bench/uMain/bareloop.h"
-#include "bench/uMain/measuredhost.h"
-#include "bench/vortaq/hospital.h"
+#include "bench/support/measuredhost.h"
+#include "bench/support/measuring.h"
+#include "bench/support/plainsqlite.h"
 #include "toolkit/TdxTreeList.h"
 #include "uMain/HistoryPage.h"
 #include "uMain/workbench.h"
 #include "vortaq/schema/schema.h"
 #include "vortaq/sqlite/sqliteengine.h"
-
-#include <sqlite3.h>
 
 #include <QApplication>
 #include <QFile>
@@ -25,10 +23,10 @@
 
 namespace {
 
-using vortaq::bench::median;
-using vortaq::bench::milliseconds;
-using vortaq::bench::Plain;
-using vortaq::bench::run;
+using bench::median;
+using bench::milliseconds;
+using bench::Plain;
+using bench::run;
 
 constexpr int Bills = 20000; // half of them archived
 constexpr int LargeBillRecords = 500; // of the newest bill, which is current; the others have 50 each
@@ -53,14 +51,6 @@ const char *const BareRecords =
     "'普通住院' when '22' then '单病种住院' when '23' then '正常分娩住院' when '29' then '其他住院' when '90' then "
     "'其他' "
     "end,ExpressionsID,LimitDef from o_CbZyBxDj where BillCode='420101' and BillNo=20000 order by OutDate";
-
-Plain openPlain(const QString &file)
-{
-    sqlite3 *database = nullptr;
-    if (sqlite3_open(file.toUtf8().constData(), &database) != SQLITE_OK)
-        std::abort();
-    return Plain(database);
-}
 
 /// Bills 1 to 10,000 in the archive, 10,001 to 20,000 current.
 void fillTables(sqlite3 *database, const char *prefix, const char *firstBill, const char *lastBill)
@@ -89,7 +79,7 @@ void fillTables(sqlite3 *database, const char *prefix, const char *firstBill, co
 
 void makeDatabase(const QString &file)
 {
-    const Plain database = openPlain(file);
+    const Plain database = bench::openPlain(file);
     run(database.get(), "pragma synchronous = off; pragma journal_mode = wal; begin");
     for (const std::string &statement : vortaq::schemaStatements())
         run(database.get(), statement);
@@ -126,8 +116,7 @@ int main(int argc, char **argv)
     const QString file = argc > 1 ? QString::fromLocal8Bit(argv[1]) : folder.filePath(QStringLiteral("history.db"));
     if (!QFile::exists(file))
         makeDatabase(file);
-    const Plain database = openPlain(file);
-    bench::tuneAsTheEngineDoes(database.get());
+    const Plain database = bench::openTuned(file);
 
     const bench::MeasuredHost host(vortaq::openSqlite(file));
     Workbench workbench;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Workload "saving a bill": thousands of ticked records, against the same statements given to SQLite as they are
 // written.
-#include "bench/vortaq/hospital.h"
+#include "bench/support/hospital.h"
+#include "bench/support/measuring.h"
+#include "bench/support/plainsqlite.h"
 #include "vortaq/sqlite/sqliteengine.h"
 
 #include <sqlite3.h>
@@ -11,8 +13,9 @@
 
 namespace {
 
-using namespace vortaq;
-using namespace vortaq::bench;
+using namespace bench;
+using vortaq::Engine;
+using vortaq::openSqlite;
 
 constexpr int candidates = 20000;
 constexpr int ticked = 5000;
@@ -110,7 +113,7 @@ int main()
     const double usual = usualTime(*engine, ticked);
     const double many = usualTime(*engine, candidates);
     engine->rollback();
-    const double written = saveAsWritten(hospital.plain().get(), ticked);
+    const double written = saveAsWritten(openPlain(hospital.file()).get(), ticked);
 
     const double speed = written / usual;
     const double growth = many / few / (candidates / 1000.0);

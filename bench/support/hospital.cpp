@@ -1,27 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Fills the scratch database.
-#include "bench/vortaq/hospital.h"
+#include "bench/support/hospital.h"
 
+#include "bench/support/plainsqlite.h"
 #include "vortaq/schema/schema.h"
 
-#include <sqlite3.h>
-
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-
-namespace vortaq::bench {
-
-void Closer::operator()(sqlite3 *database) const
-{
-    sqlite3_close(database);
-}
+namespace bench {
 
 Hospital::Hospital(int candidates, int recordsEach)
 {
-    const Plain database = plain();
+    const Plain database = openPlain(file());
     run(database.get(), "pragma synchronous = off; pragma journal_mode = wal; begin");
-    for (const std::string &statement : schemaStatements())
+    for (const std::string &statement : vortaq::schemaStatements())
         run(database.get(), statement);
     const std::string count = std::to_string(candidates * recordsEach);
     const std::string each = std::to_string(recordsEach);
@@ -57,14 +47,6 @@ QString Hospital::file() const
     return m_folder.filePath(QStringLiteral("bench.db"));
 }
 
-Plain Hospital::plain() const
-{
-    sqlite3 *database = nullptr;
-    if (sqlite3_open(file().toUtf8().constData(), &database) != SQLITE_OK)
-        std::abort();
-    return Plain(database);
-}
-
 std::string keyOf(int candidate)
 {
     const auto padded = [](int number, std::size_t width) {
@@ -75,18 +57,4 @@ std::string keyOf(int candidate)
         + "' and IDNo=" + std::to_string(candidate % 4) + " and DiagNo=0)";
 }
 
-void run(sqlite3 *database, const std::string &statement)
-{
-    if (sqlite3_exec(database, statement.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-        std::fprintf(stderr, "%s\n", sqlite3_errmsg(database));
-        std::exit(1);
-    }
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-} // namespace vortaq::bench
+} // namespace bench
