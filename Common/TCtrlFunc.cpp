@@ -69,7 +69,7 @@ common::DrawingSurface *TCtrlFunc::DrawNoCanvas(QWidget &control) const
     return new common::DrawingSurface(control);
 }
 
-void TCtrlFunc::AutoColumnWidth(QTableWidget &grid) const
+void TCtrlFunc::AutoColumnWidth(QAbstractItemView &grid) const
 {
     common::fitColumns(grid);
 }

@@ -8,7 +8,8 @@
 namespace common {
 
 /// Lies over its control, of which it is a child, and follows its size; what was drawn stays until clear(). Keys and
-/// mouse go to the control.
+/// mouse go to the control. Over a grid, or whatever else scrolls, it covers the whole control with header and scroll
+/// bars, not the viewport alone: what was drawn stays in its place when the rows scroll.
 class DrawingSurface final : public QWidget {
     Q_OBJECT
 

@@ -16,33 +16,6 @@ namespace common {
 
 namespace {
 
-bool same(QStringView left, QStringView right)
-{
-    return left.compare(right, Qt::CaseInsensitive) == 0;
-}
-
-struct Place {
-    std::vector<IniLine>::const_iterator entry; ///< end when the key is missing
-    std::vector<IniLine>::const_iterator section; ///< end when the section is missing
-};
-
-/// Looks in the first section of the name only.
-Place find(const std::vector<IniLine> &lines, QStringView section, QStringView key)
-{
-    Place place{lines.end(), lines.end()};
-    place.section = std::ranges::find_if(
-        lines, [&](const IniLine &line) { return line.kind == IniLine::Section && same(line.name, trimmed(section)); });
-    if (place.section == lines.end())
-        return place;
-    const auto last =
-        std::find_if(place.section + 1, lines.end(), [](const IniLine &line) { return line.kind == IniLine::Section; });
-    const auto entry = std::find_if(place.section + 1, last, [&](const IniLine &line) {
-        return line.kind == IniLine::Entry && same(line.name, trimmed(key));
-    });
-    place.entry = entry == last ? lines.end() : entry;
-    return place;
-}
-
 [[noreturn]] void refuse(const QString &message)
 {
     throw IniError(message.toStdString());
@@ -56,7 +29,7 @@ bool hasAnyOf(QStringView text, QStringView characters)
 void checkName(QStringView name)
 {
     const QStringView text = trimmed(name);
-    if (text.isEmpty() || text.front() == u';' || text.front() == u'#' || hasAnyOf(text, u"[]=\r\n"))
+    if (text.isEmpty() || text.front() == u';' || text.front() == u'#' || hasAnyOf(name, u"[]=\r\n"))
         refuse(QStringLiteral("“%1”不能用作设置文件的节名或键名。").arg(name));
 }
 
@@ -76,18 +49,6 @@ QString lineEndOf(const QString &text)
     return feed < 0 || (feed > 0 && text[feed - 1] == u'\r') ? QStringLiteral("\r\n") : QStringLiteral("\n");
 }
 
-/// Behind the last line of a section that is not blank.
-qsizetype endOfSection(const std::vector<IniLine> &lines, std::vector<IniLine>::const_iterator section,
-                       QStringView text)
-{
-    auto last = section;
-    for (auto line = section + 1; line != lines.end() && line->kind != IniLine::Section; ++line) {
-        if (!trimmed(line->line).isEmpty())
-            last = line;
-    }
-    return last->line.end() - text.begin();
-}
-
 } // namespace
 
 QString iniFilePath(const QString &fileName)
@@ -99,8 +60,8 @@ QString iniValue(const QByteArray &content, const QString &section, const QStrin
 {
     const IniText ini = decodeIni(content);
     const std::vector<IniLine> lines = parseIni(ini.text);
-    const Place place = find(lines, section, key);
-    return place.entry == lines.end() ? QString() : place.entry->value.toString();
+    const IniPlace place = findIni(lines, section, key);
+    return place.entry < 0 ? QString() : lines[static_cast<std::size_t>(place.entry)].value.toString();
 }
 
 QByteArray withIniValue(const QByteArray &content, const QString &section, const QString &key, const QString &value)
@@ -108,21 +69,11 @@ QByteArray withIniValue(const QByteArray &content, const QString &section, const
     checkName(section);
     checkName(key);
     IniText ini = decodeIni(content);
-    const QString entry = trimmed(key).toString() + u'=' + written(value);
-    const QString lineEnd = lineEndOf(ini.text);
-    const QStringView text(ini.text);
-    const std::vector<IniLine> lines = parseIni(text);
-    const Place place = find(lines, section, key);
-    if (place.entry != lines.end()) {
-        ini.text.replace(place.entry->line.begin() - text.begin(), place.entry->line.size(), entry);
-    } else if (place.section != lines.end()) {
-        ini.text.insert(endOfSection(lines, place.section, text), lineEnd + entry);
-    } else {
-        if (!ini.text.isEmpty() && !ini.text.endsWith(u'\n') && !ini.text.endsWith(u'\r'))
-            ini.text += lineEnd;
-        ini.text += u'[' + trimmed(section).toString() + u']' + lineEnd + entry + lineEnd;
-    }
-    return encodeIni(ini);
+    putIniEntry(ini.text, section, key, trimmed(key).toString() + u'=' + written(value), lineEndOf(ini.text));
+    QByteArray changed = encodeIni(ini);
+    if (iniValue(changed, section, key) != value) // half a surrogate pair, for one
+        refuse(QStringLiteral("设置值“%1”无法写入设置文件。").arg(value));
+    return changed;
 }
 
 QString readIniFile(const QString &path, const QString &section, const QString &key)

@@ -28,7 +28,7 @@ public:
 /// The content with the value put in, everything else untouched: in the place of the old value, else at the end of
 /// the section, else in a new section at the end. The encoding and the line ends stay what they are.
 /// Throws IniError when the value could not be read back: for a name that is empty, begins with a comment mark or
-/// holds a bracket ("[", "]") or "="; for a line break anywhere.
+/// holds a bracket ("[", "]") or "="; for a line break anywhere; for a text that no encoding can hold.
 [[nodiscard]] QByteArray withIniValue(const QByteArray &content, const QString &section, const QString &key,
                                       const QString &value);
 

@@ -69,6 +69,22 @@ IniLine takeApart(QStringView line)
     return {IniLine::Entry, line, trimmed(text.first(equals)), withoutQuotes(trimmed(text.sliced(equals + 1)))};
 }
 
+bool same(QStringView left, QStringView right)
+{
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+/// Behind the last line of a section that is not blank.
+qsizetype endOfSection(const std::vector<IniLine> &lines, qsizetype section, QStringView text)
+{
+    auto last = lines.begin() + section;
+    for (auto line = last + 1; line != lines.end() && line->kind != IniLine::Section; ++line) {
+        if (!trimmed(line->line).isEmpty())
+            last = line;
+    }
+    return last->line.end() - text.begin();
+}
+
 } // namespace
 
 IniText decodeIni(const QByteArray &content)
@@ -117,6 +133,42 @@ std::vector<IniLine> parseIni(QStringView text)
         text = text.sliced(std::min(found + (both ? 2 : 1), text.size()));
     }
     return lines;
+}
+
+IniPlace findIni(const std::vector<IniLine> &lines, QStringView section, QStringView key)
+{
+    IniPlace place;
+    for (qsizetype at = 0; at < std::ssize(lines); ++at) {
+        const IniLine &line = lines[static_cast<std::size_t>(at)];
+        if (line.kind == IniLine::Section) {
+            if (place.section >= 0)
+                break;
+            if (same(line.name, trimmed(section)))
+                place.section = at;
+        } else if (line.kind == IniLine::Entry && place.section >= 0 && same(line.name, trimmed(key))) {
+            place.entry = at;
+            break;
+        }
+    }
+    return place;
+}
+
+void putIniEntry(QString &text, const QString &section, const QString &key, const QString &entry,
+                 const QString &lineEnd)
+{
+    const QStringView view(text);
+    const std::vector<IniLine> lines = parseIni(view);
+    const IniPlace place = findIni(lines, section, key);
+    if (place.entry >= 0) {
+        const QStringView old = lines[static_cast<std::size_t>(place.entry)].line;
+        text.replace(old.begin() - view.begin(), old.size(), entry);
+    } else if (place.section >= 0) {
+        text.insert(endOfSection(lines, place.section, view), lineEnd + entry);
+    } else {
+        if (!text.isEmpty() && !text.endsWith(u'\n') && !text.endsWith(u'\r'))
+            text += lineEnd;
+        text += u'[' + trimmed(section).toString() + u']' + lineEnd + entry + lineEnd;
+    }
 }
 
 } // namespace common

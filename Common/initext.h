@@ -35,4 +35,17 @@ struct IniLine {
 
 [[nodiscard]] std::vector<IniLine> parseIni(QStringView text);
 
+/// Where a value stands. The first section of the name counts, and in it the first key; letter case does not.
+struct IniPlace {
+    qsizetype section = -1; ///< position among the lines; -1 when the section is missing
+    qsizetype entry = -1; ///< -1 when the key is missing
+};
+
+[[nodiscard]] IniPlace findIni(const std::vector<IniLine> &lines, QStringView section, QStringView key);
+
+/// Puts the line of an entry in the place of the one with its key, else at the end of the section, else in a new
+/// section at the end. Everything else stays.
+void putIniEntry(QString &text, const QString &section, const QString &key, const QString &entry,
+                 const QString &lineEnd);
+
 } // namespace common

@@ -3,45 +3,24 @@
 #include "Common/odbcsource.h"
 
 #include "Common/blanks.h"
+#include "Common/odbcfile.h"
 
-#include <odbcinst.h>
+#include <QFile>
+#include <QSaveFile>
 
 #include <algorithm>
+#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace common {
 
 namespace {
 
-constexpr char ConfigurationFile[] = "odbc.ini";
 constexpr char RegisteredSources[] = "ODBC Data Sources";
 constexpr char DriverDescription[] = "Adaptive Server Anywhere 8.0";
 constexpr int LongestName = 32; // as the installer library has it
-constexpr int LongestValue = 900; // it cuts lines of a thousand bytes
-
-/// The user's own configuration, for as long as this lives.
-class UserConfiguration {
-public:
-    UserConfiguration()
-    {
-        SQLGetConfigMode(&m_before);
-        SQLSetConfigMode(ODBC_USER_DSN);
-    }
-
-    UserConfiguration(const UserConfiguration &) = delete;
-    UserConfiguration &operator=(const UserConfiguration &) = delete;
-    ~UserConfiguration() { SQLSetConfigMode(m_before); }
-
-    [[nodiscard]] bool write(const std::string &section, const char *key, const std::string &value) const
-    {
-        return SQLWritePrivateProfileString(section.c_str(), key, value.c_str(), ConfigurationFile) != 0;
-    }
-
-private:
-    UWORD m_before = ODBC_BOTH_DSN;
-};
+constexpr int LongestValue = 499; // the command odbcinst shows no more
 
 bool hasAnyOf(const QString &text, QStringView characters)
 {
@@ -51,7 +30,7 @@ bool hasAnyOf(const QString &text, QStringView characters)
 bool fits(const QString &value)
 {
     const auto isControl = [](QChar character) { return character < u' ' || character == QChar(0x7F); };
-    return value.toUtf8().size() <= LongestValue && trimmed(value).size() == value.size()
+    return value.isValidUtf16() && value.toUtf8().size() <= LongestValue && trimmed(value).size() == value.size()
         && std::ranges::none_of(value, isControl);
 }
 
@@ -61,6 +40,44 @@ bool isOwnHeading(const QString &name)
         || name.compare(QLatin1String(RegisteredSources), Qt::CaseInsensitive) == 0;
 }
 
+QString linksTo(const QString &host)
+{
+    return QStringLiteral("SharedMemory,TCPIP{host=%1}").arg(host);
+}
+
+std::vector<OdbcEntry> entriesOf(const OdbcSource &source)
+{
+    std::vector<OdbcEntry> entries;
+    const auto add = [&](const char *key, const QString &value) {
+        entries.push_back({source.name.toStdString(), key, value.toStdString()});
+    };
+    const QString no = QStringLiteral("NO");
+    add("AutoStop", QStringLiteral("YES"));
+    if (!source.host.isEmpty())
+        add("CommLinks", linksTo(source.host));
+    add("DatabaseFile", source.databaseFile);
+    add("Compress", no);
+    add("Debug", no);
+    add("DisableMultiRowFetch", no);
+    add("Driver", source.driverFile);
+    add("EngineName", source.engineName);
+    add("Integrated", no);
+    add("PWD", source.password);
+    add("UID", source.userName);
+    entries.push_back({RegisteredSources, source.name.toStdString(), DriverDescription});
+    return entries;
+}
+
+/// Replaces the file whole. A new one is for its owner's eyes: there are passwords in it.
+bool replaceFile(const QString &path, const QByteArray &content)
+{
+    const bool isNew = !QFile::exists(path);
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    return file.open(QIODevice::WriteOnly) && (!isNew || file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
+        && file.write(content) == content.size() && file.commit();
+}
+
 } // namespace
 
 bool canHold(const OdbcSource &source)
@@ -68,7 +85,7 @@ bool canHold(const OdbcSource &source)
     const bool nameFits = !source.name.isEmpty() && source.name.toUtf8().size() <= LongestName
         && !isOwnHeading(source.name) && !hasAnyOf(source.name, u"[]{}(),;?*=!@\\#");
     const bool hostFits = !hasAnyOf(source.host, u"{},;");
-    return nameFits && hostFits && fits(source.name) && fits(source.host) && fits(source.databaseFile)
+    return nameFits && hostFits && fits(source.name) && fits(linksTo(source.host)) && fits(source.databaseFile)
         && fits(source.driverFile) && fits(source.engineName) && fits(source.password) && fits(source.userName);
 }
 
@@ -76,25 +93,13 @@ bool writeOdbcSource(const OdbcSource &source)
 {
     if (!canHold(source))
         return false;
-    std::vector<std::pair<const char *, std::string>> values = {{"AutoStop", "YES"}};
-    if (!source.host.isEmpty())
-        values.emplace_back("CommLinks", "SharedMemory,TCPIP{host=" + source.host.toStdString() + "}");
-    values.insert(values.end(),
-                  {{"DatabaseFile", source.databaseFile.toStdString()},
-                   {"Compress", "NO"},
-                   {"Debug", "NO"},
-                   {"DisableMultiRowFetch", "NO"},
-                   {"Driver", source.driverFile.toStdString()},
-                   {"EngineName", source.engineName.toStdString()},
-                   {"Integrated", "NO"},
-                   {"PWD", source.password.toStdString()},
-                   {"UID", source.userName.toStdString()}});
-
-    const UserConfiguration configuration;
-    const std::string name = source.name.toStdString();
-    const bool written = std::ranges::all_of(
-        values, [&](const auto &value) { return configuration.write(name, value.first, value.second); });
-    return written && configuration.write(RegisteredSources, name.c_str(), DriverDescription);
+    const QString path = odbcFilePath();
+    QFile old(path);
+    if (old.exists() && !old.open(QIODevice::ReadOnly))
+        return false;
+    const std::optional<QByteArray> changed =
+        withOdbcEntries(old.isOpen() ? old.readAll() : QByteArray(), entriesOf(source));
+    return changed && replaceFile(path, *changed);
 }
 
 } // namespace common

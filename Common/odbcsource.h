@@ -21,11 +21,14 @@ struct OdbcSource {
 /// - the name is empty, longer than 32 bytes of UTF-8, a heading of the configuration's own ("ODBC", "ODBC Data
 ///   Sources"), or holds one of []{}(),;?*=!@\# ;
 /// - the host holds a brace, a comma or a semicolon, which would end it;
-/// - anything holds a control character, is longer than 900 bytes, or has a blank at an end.
+/// - anything holds a control character or half a surrogate pair, has a blank at an end, or makes a value longer than
+///   499 bytes, which is all that the command odbcinst shows.
 [[nodiscard]] bool canHold(const OdbcSource &source);
 
-/// Writes the source, or changes the one of that name, and registers it; other sources stay. False, and nothing is
-/// written, when canHold() says no; false also when the configuration cannot be written.
+/// Writes the source, or changes the one of that name, and registers it, in the current user's configuration (see
+/// odbcFilePath()). Other sources, comments, and what else stands in the source's own entry stay. The file is replaced
+/// whole or not touched; a new one is readable by the user alone. False, and nothing is written, when canHold() says
+/// no, when the library cannot read the configuration there is, and when it cannot be written.
 [[nodiscard]] bool writeOdbcSource(const OdbcSource &source);
 
 } // namespace common

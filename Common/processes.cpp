@@ -41,7 +41,7 @@ public:
         const QString path = QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(m_number));
         QString name = path.sliced(path.lastIndexOf(u'/') + 1);
         const QString replaced = QStringLiteral(" (deleted)"); // how an executable that was replaced is shown
-        if (name.endsWith(replaced))
+        if (name.endsWith(replaced) && !QFile::exists(path))
             name.chop(replaced.size());
         return name;
     }

@@ -14,6 +14,19 @@
 
 namespace common {
 
+namespace {
+
+QString withoutOuterSlashes(QStringView path)
+{
+    while (path.startsWith(u'/'))
+        path = path.sliced(1);
+    while (path.endsWith(u'/'))
+        path.chop(1);
+    return path.toString();
+}
+
+} // namespace
+
 QString registryLocation()
 {
 #ifdef Q_OS_WIN
@@ -26,11 +39,12 @@ QString registryLocation()
 
 QString registryValue(const QString &keyPath, const QString &valueName)
 {
+    const QString path = withoutOuterSlashes(platformPath(keyPath));
 #ifdef Q_OS_WIN
-    const QSettings key(registryLocation() + u'\\' + keyPath, QSettings::NativeFormat);
+    const QSettings key(registryLocation() + u'\\' + path, QSettings::NativeFormat);
     return key.value(valueName).toString();
 #else
-    return readIniFile(registryLocation(), platformPath(keyPath), valueName);
+    return readIniFile(registryLocation(), path, valueName);
 #endif
 }
 

@@ -6,8 +6,9 @@
 
 namespace common {
 
-/// A value below a key such as "Software\\Company\\Program", whole numbers as decimal text. Empty when key or value
-/// are missing.
+/// A value of a key below the current user's, such as "Software\\Company\\Program" (separators at its ends do not
+/// count): a text as it is, a whole number as decimal text. Letter case does not matter. Empty when key or value are
+/// missing.
 [[nodiscard]] QString registryValue(const QString &keyPath, const QString &valueName);
 
 /// Where the values stand: a registry key, or a file in which sections are key paths written with slashes.

@@ -3,6 +3,7 @@
 #include "Common/TCtrlFunc.h"
 
 #include "Common/executablefolder.h"
+#include "Common/inifile.h"
 #include "Common/platformpath.h"
 #include "Common/systime.h"
 #include "Common/userregistry.h"
@@ -25,6 +26,12 @@ void put(const QString &path, const QByteArray &content)
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     ASSERT_EQ(file.write(content), content.size());
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 class CtrlFunc : public testing::Test {
@@ -61,6 +68,43 @@ TEST_F(CtrlFunc, writesTheSetupFile)
     EXPECT_TRUE(QFile::exists(m_folder.filePath(u"setup.ini"_s)));
 }
 
+TEST_F(CtrlFunc, leavesTheSetupFileAloneWhenItCannotHoldTheValue)
+{
+    const QByteArray content = "; 设置\n[system]\nconnStyle=1\n";
+    put(m_folder.filePath(u"setup.ini"_s), content);
+    const QString half(QChar(0xD83C));
+    for (const QString &name :
+         {u""_s, u" \t"_s, u"a]"_s, u"[a"_s, u"a=b"_s, u";a"_s, u" #a"_s, u"a\nb"_s, u"a\r"_s, half}) {
+        EXPECT_THROW(m_functions.WriteIniStr(u"setup.ini"_s, name, u"key"_s, u"1"_s), common::IniError)
+            << name.toStdString();
+        EXPECT_THROW(m_functions.WriteIniStr(u"setup.ini"_s, u"system"_s, name, u"1"_s), common::IniError)
+            << name.toStdString();
+    }
+    for (const QString &value : {u"1\n[system2]"_s, u"1\r"_s, u"\n"_s, half})
+        EXPECT_THROW(m_functions.WriteIniStr(u"setup.ini"_s, u"system"_s, u"connStyle"_s, value), common::IniError);
+    EXPECT_EQ(contentOf(m_folder.filePath(u"setup.ini"_s)), content);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"setup.ini"_s});
+}
+
+TEST_F(CtrlFunc, refusesToWriteWhereThereIsNoFile)
+{
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir(u"Module"_s));
+    for (const QString &file : {u""_s, u"Module"_s, u"Module\\"_s, u"missing\\setup.ini"_s})
+        EXPECT_THROW(m_functions.WriteIniStr(file, u"a"_s, u"b"_s, u"c"_s), common::IniError) << file.toStdString();
+    EXPECT_EQ(m_functions.ReadIniStr(u""_s, u"a"_s, u"b"_s), QString());
+    EXPECT_EQ(m_functions.ReadIniStr(u"Module"_s, u"a"_s, u"b"_s), QString());
+}
+
+TEST_F(CtrlFunc, readsBackOddValues)
+{
+    for (const QString &value :
+         {u"[a]"_s, u"a=b"_s, u";"_s, u"#a"_s, u" a "_s, u"\t"_s, u"\"a\""_s, u"'"_s, u"''"_s, u"\"'a'\""_s,
+          u"　院　"_s, u"°"_s, u"\U0001F3E5"_s, u"C:\\Module\\"_s, u"%1%n"_s, QString(5000, u'x')}) {
+        m_functions.WriteIniStr(u"setup.ini"_s, u"system"_s, u"connStyle"_s, value);
+        EXPECT_EQ(m_functions.ReadIniStr(u"setup.ini"_s, u"system"_s, u"connStyle"_s), value);
+    }
+}
+
 TEST_F(CtrlFunc, splits)
 {
     EXPECT_EQ(m_functions.SplitString(u"a,b,c"_s, u","_s, true), u"a"_s);
@@ -76,6 +120,9 @@ TEST_F(CtrlFunc, readsTheUsersRegistry)
     put(common::registryLocation(), "[Software/Hospital]\nName=城关卫生院\nCount=12\n");
     EXPECT_EQ(m_functions.GetRegKeyValue(u"Software\\Hospital"_s, u"Name"_s), u"城关卫生院"_s);
     EXPECT_EQ(m_functions.GetRegKeyValue(u"software\\hospital"_s, u"count"_s), u"12"_s);
+    EXPECT_EQ(m_functions.GetRegKeyValue(u"\\Software\\Hospital\\"_s, u"Count"_s), u"12"_s);
+    EXPECT_EQ(m_functions.GetRegKeyValue(u"Software\\Hospital]\n[Software/Hospital"_s, u"Count"_s), QString());
+    EXPECT_EQ(m_functions.GetRegKeyValue(u"Software\\Hospital"_s, u"Name=城关卫生院\nCount"_s), QString());
     EXPECT_EQ(m_functions.GetRegKeyValue(u"Software\\Hospital"_s, u"Missing"_s), QString());
     EXPECT_EQ(m_functions.GetRegKeyValue(u"Software"_s, u"Name"_s), QString());
     EXPECT_EQ(m_functions.GetRegKeyValue(QString(), QString()), QString());

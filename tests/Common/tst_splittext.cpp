@@ -62,6 +62,42 @@ TEST(SplitItem, isEmptyOutsideTheList)
     EXPECT_EQ(common::splitItem(u"   "_s, u","_s, 0), QString());
 }
 
+TEST(SplitString, findsSeparatorsAtTheEnds)
+{
+    EXPECT_EQ(common::splitString(u",a"_s, u","_s, Side::Before), QString());
+    EXPECT_EQ(common::splitString(u",a"_s, u","_s, Side::After), u"a"_s);
+    EXPECT_EQ(common::splitString(u"a,"_s, u","_s, Side::Before), u"a"_s);
+    EXPECT_EQ(common::splitString(u"a,"_s, u","_s, Side::After), QString());
+    EXPECT_EQ(common::splitString(u","_s, u","_s, Side::Before), QString());
+    EXPECT_EQ(common::splitString(u"a"_s, u"a separator longer than the text"_s, Side::Before), u"a"_s);
+}
+
+TEST(SplitString, tellsLetterCaseApart)
+{
+    EXPECT_EQ(common::splitString(u"1X2x3"_s, u"x"_s, Side::Before), u"1X2"_s);
+}
+
+TEST(SplitItem, takesBlanksAndLineBreaksForSeparators)
+{
+    EXPECT_EQ(common::splitItem(u" a b "_s, u" "_s, 1), u"b"_s);
+    EXPECT_EQ(common::splitItem(u" a b "_s, u" "_s, 2), QString());
+    EXPECT_EQ(common::splitItem(u"a\r\nb\r\n"_s, u"\r\n"_s, 1), u"b"_s);
+    EXPECT_EQ(common::splitItem(u"a, "_s, u", "_s, 0), u"a,"_s); // the source is trimmed first
+}
+
+TEST(SplitItem, isTheWholeSourceWithoutASeparator)
+{
+    EXPECT_EQ(common::splitItem(u" a,b "_s, QString(), 0), u"a,b"_s);
+    EXPECT_EQ(common::splitItem(u" a,b "_s, QString(), 1), QString());
+    EXPECT_EQ(common::splitItem(u"a,b"_s, u";"_s, 0), u"a,b"_s);
+}
+
+TEST(SplitItem, goesFromLeftToRightWhereSeparatorsOverlap)
+{
+    EXPECT_EQ(common::splitItem(u"1;;;2"_s, u";;"_s, 0), u"1"_s);
+    EXPECT_EQ(common::splitItem(u"1;;;2"_s, u";;"_s, 1), u";2"_s);
+}
+
 TEST(SplitItem, agreesWithRepeatedSplitting)
 {
     const QString source = u"a;bb;;ccc;"_s;

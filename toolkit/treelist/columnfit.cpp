@@ -106,8 +106,9 @@ int ColumnFit::treeWidth(int column) const
         if (nodes.empty())
             return width;
         for (std::size_t i = 0; i < std::min(nodes.size(), mostMeasured); ++i) {
-            const int indented = (m_store.hasLevels() ? depth * m_view.indentation() : 0) + image;
-            width = std::max(width, indented + cellWidth(nodes[i], column));
+            const int indented = m_store.hasLevels() ? depth * m_view.indentation() : 0;
+            const int beside = m_model.image(nodes[i], false).isNull() ? 0 : image;
+            width = std::max(width, indented + beside + cellWidth(nodes[i], column));
         }
         parent = nodes.front();
     }

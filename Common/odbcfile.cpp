@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "Common/odbcfile.h"
+
+#include "Common/initext.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <odbcinst.h>
+#include <pwd.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace common {
+
+namespace {
+
+/// The library writes a file anew for every value, without its comments and with long lines cut. So it works on a copy,
+/// which is in memory, because there are passwords in it.
+class Copy {
+public:
+    Copy()
+        : m_descriptor(::memfd_create("odbc", MFD_CLOEXEC))
+        , m_path("/proc/self/fd/" + std::to_string(m_descriptor))
+    {
+    }
+
+    Copy(const Copy &) = delete;
+    Copy &operator=(const Copy &) = delete;
+
+    ~Copy()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+
+    [[nodiscard]] bool fill(const QByteArray &content) const
+    {
+        QFile file(name());
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+    }
+
+    [[nodiscard]] QByteArray content() const
+    {
+        QFile file(name());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    [[nodiscard]] bool write(const OdbcEntry &entry) const
+    {
+        return SQLWritePrivateProfileString(entry.section.c_str(), entry.key.c_str(), entry.value.c_str(),
+                                            m_path.c_str())
+            != 0;
+    }
+
+    [[nodiscard]] bool holds(const OdbcEntry &entry) const
+    {
+        std::array<char, 2000> value{};
+        const int size = SQLGetPrivateProfileString(entry.section.c_str(), entry.key.c_str(), "", value.data(),
+                                                    static_cast<int>(value.size()), m_path.c_str());
+        return size >= 0 && entry.value == value.data();
+    }
+
+private:
+    [[nodiscard]] QString name() const { return QString::fromStdString(m_path); }
+
+    int m_descriptor;
+    std::string m_path;
+};
+
+/// Bytes as characters, whatever their encoding: other people's entries need not be UTF-8.
+QString asBytes(const std::string &text)
+{
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace
+
+QString odbcFilePath()
+{
+    const QByteArray chosen = qgetenv("ODBCINI");
+    if (!chosen.isEmpty())
+        return QFile::decodeName(chosen);
+    // The library asks the system for the home, not the environment.
+    const passwd *user = ::getpwuid(::getuid());
+    return QFile::decodeName(user == nullptr ? "/home" : user->pw_dir) + QStringLiteral("/.odbc.ini");
+}
+
+std::optional<QByteArray> withOdbcEntries(const QByteArray &content, const std::vector<OdbcEntry> &entries)
+{
+    const Copy copy;
+    const auto written = [&copy](const OdbcEntry &entry) { return copy.write(entry); };
+    const auto held = [&copy](const OdbcEntry &entry) { return copy.holds(entry); };
+    if (!copy.fill(content) || !std::ranges::all_of(entries, written))
+        return std::nullopt;
+
+    const QString made = QString::fromLatin1(copy.content());
+    const std::vector<IniLine> lines = parseIni(made);
+    QString text = QString::fromLatin1(content);
+    const QString lineEnd = text.contains(u"\r\n") ? QStringLiteral("\r\n") : QStringLiteral("\n");
+    for (const OdbcEntry &entry : entries) {
+        const QString section = asBytes(entry.section);
+        const QString key = asBytes(entry.key);
+        const IniPlace place = findIni(lines, section, key);
+        if (place.entry < 0)
+            return std::nullopt;
+        putIniEntry(text, section, key, lines[static_cast<std::size_t>(place.entry)].line.toString(), lineEnd);
+    }
+    QByteArray changed = text.toLatin1();
+    if (!copy.fill(changed) || !std::ranges::all_of(entries, held))
+        return std::nullopt;
+    return changed;
+}
+
+} // namespace common
