@@ -80,6 +80,10 @@ void TdxTreeList::setColumns(const std::vector<toolkit::ColumnDefinition> &colum
     d->ownedColumns.swap(made); // those before go at the end of this function
     for (const TdxTreeListColumn *column : d->columns)
         setColumnHidden(column->position(), column->definition().hidden);
+    for (const TdxTreeListColumn *column : d->columns) {
+        if (column->definition().sortedAtFirst)
+            d->header->setSortIndicator(column->position(), Qt::AscendingOrder);
+    }
     d->fit.columnsReplaced(d->columns);
 }
 

@@ -20,6 +20,7 @@ struct ColumnDefinition {
     const char *checked = "1"; ///< text that shows as ticked (check columns)
     const char *unchecked = "2"; ///< text that a toggle writes to untick (check columns)
     const char *displayFormat = ""; ///< see formatFloat(); empty: the text as it came (currency columns)
+    bool sortedAtFirst = false; ///< the list begins sorted by this column, ascending
     const char *widest = nullptr; ///< sample text for the first width; null: fit caption and rows shown
 };
 

@@ -19,6 +19,8 @@
 #include "uAddBill/columns.h"
 #include "ui_TfrmAddBill.h"
 
+#include <QScreen>
+
 TfrmAddBill::TfrmAddBill(data::BillKey bill, QWidget *parent)
     : QDialog(parent,
               Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
@@ -32,6 +34,7 @@ TfrmAddBill::TfrmAddBill(data::BillKey bill, QWidget *parent)
     CDSAdd->setObjectName(QStringLiteral("CDSAdd"));
     m_ui->dxTLUp->setColumns(addBillColumns());
     m_ui->dxTLUp->setFixedBand(AddBillFixedBand);
+    m_ui->dxTLUp->setEditTriggers(QAbstractItemView::AllEditTriggers); // an editor opens wherever the focus comes
     m_ui->dxTLUp->setCustomDrawCell(toolkit::billListDrawing());
     m_ui->dxTLUp->columnByName(QStringLiteral("dxTLUpID"))->setCustomDrawCell(toolkit::rowNumberDrawing());
     m_checkColumn = toolkit::columnPosition(*m_ui->dxTLUp, "Check");
@@ -50,6 +53,7 @@ void TfrmAddBill::ShowModal()
     FormShow();
     if (parentWidget() != nullptr)
         setFixedSize(parentWidget()->window()->size() * 9 / 10); // its border is not for dragging
+    move(screen()->availableGeometry().center() - rect().center());
     exec();
 }
 
@@ -58,6 +62,10 @@ void TfrmAddBill::FormShow()
     m_ui->pnlAdd->setCaption(m_ui->LbAdd, data::reimbursementTitle());
     applyBackground(*m_ui->dxTLUp);
     ApplyMoneyFormat(*m_ui->dxTLUp);
+    const auto *money =
+        m_ui->dxTLUp->findChild<TdxTreeListCurrencyColumn *>(QStringLiteral("dxTLUpTotalFee")); // the host was asked
+    for (TdxCurrencyEdit *edit : {m_ui->dxCEUpTotal, m_ui->dxCEUpCanFee, m_ui->dxCEUpFreeFee})
+        edit->setDisplayFormat(money->displayFormat());
     LoadAddCandidates();
 }
 

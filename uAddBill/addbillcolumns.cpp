@@ -42,7 +42,7 @@ const std::vector<ColumnDefinition> &addBillColumns()
         {.name = "dxTLUpDayCount", .caption = "住院天数", .field = "DayCount"},
         {.name = "dxTLUpPatientNo", .caption = "住院号", .field = "PatientNo"},
         {.name = "dxTLUpDiagNo", .field = "DiagNo", .hidden = true},
-        {.name = "dxTLUpOrgCode", .caption = "当前医疗机构", .field = "OrgCode", .hidden = true},
+        {.name = "dxTLUpOrgCode", .caption = "当前医疗机构", .field = "OrgCode", .hidden = true, .editable = true},
     };
     return columns;
 }

@@ -8,11 +8,18 @@
 #include "toolkit/messageboxes.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 
 namespace {
 
 const QString CancelFailure = QStringLiteral("取消制单失败！");
 const QString CancelSuccess = QStringLiteral("取消制单成功！");
+
+/// Clicks and keys wait: a second change would run into the transaction that is still open.
+void letTheHintShow()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
 
 } // namespace
 
@@ -49,7 +56,7 @@ void BillChanges::report(const data::BillKey &bill)
             return;
         m_workbench.execSql(data::reportBill(bill));
         user.ShowHint(QStringLiteral("上报制单成功！"));
-        QCoreApplication::processEvents(); // the hint shows before the reloads take their time
+        letTheHintShow();
         reloadOwnTree();
         m_workbench.reload.history();
     } catch (const std::exception &error) {
@@ -63,7 +70,7 @@ void BillChanges::cancel(const data::BillKey &bill)
         m_workbench.execSql(data::releaseAllRecords(m_kind.spelling, bill));
         m_workbench.execSql(data::deleteBill(m_kind.spelling, bill));
         m_workbench.host().FuncStorage.ShowHint(CancelSuccess); // the clerk sees the hint before the commit
-        QCoreApplication::processEvents();
+        letTheHintShow();
         m_workbench.host().DataCtl.CommitTran();
         m_workbench.reload.unbilledTree();
         m_workbench.reload.candidates();

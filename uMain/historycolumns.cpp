@@ -8,7 +8,7 @@ using toolkit::ColumnKind;
 const std::vector<ColumnDefinition> &historyColumns()
 {
     static const std::vector<ColumnDefinition> columns = {
-        {.name = "dxTLOldBillID", .caption = "序"},
+        {.name = "dxTLOldBillID", .caption = "序", .sortedAtFirst = true},
         {.name = "dxTLOldBillCoopMedCode", .caption = "合作医疗证号", .field = "CoopMedCode"},
         {.name = "dxTLOldBillIDNo", .caption = "序号", .field = "IDNo"},
         {.name = "dxTLOldBillPatientName", .caption = "患者姓名", .field = "PatientName"},

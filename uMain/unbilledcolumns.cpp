@@ -8,7 +8,7 @@ using toolkit::ColumnKind;
 const std::vector<ColumnDefinition> &unbilledColumns()
 {
     static const std::vector<ColumnDefinition> columns = {
-        {.name = "dxTLBxDjDetailID", .caption = "序", .alignment = Qt::AlignHCenter},
+        {.name = "dxTLBxDjDetailID", .caption = "序", .alignment = Qt::AlignHCenter, .sortedAtFirst = true},
         {.name = "dxTLBxDjDetailCoop", .caption = "合作医疗证号", .field = "CoopMedCode"},
         {.name = "dxTLBxDjDetailIDNo", .caption = "序号", .field = "IDNo"},
         {.name = "dxTLBxDjDetailPatient", .caption = "患者姓名", .field = "PatientName"},

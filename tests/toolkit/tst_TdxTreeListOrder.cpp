@@ -119,6 +119,17 @@ TEST_F(HeaderSort, SortsUpThenDownThenAsLoaded)
     EXPECT_EQ(list.header()->sortIndicatorSection(), -1);
 }
 
+TEST_F(HeaderSort, MayBeginSorted)
+{
+    list.setColumns({{.name = "a", .field = "Card"}, {.name = "b", .field = "PatientName", .sortedAtFirst = true}});
+    load();
+    EXPECT_EQ(shown(1), "阿依古丽 李建国 李丽 王秀英 张伟");
+    EXPECT_EQ(list.header()->sortIndicatorSection(), 1);
+    EXPECT_EQ(list.header()->sortIndicatorOrder(), Qt::AscendingOrder);
+    list.setColumns({{.name = "a", .field = "Card"}});
+    EXPECT_EQ(list.header()->sortIndicatorSection(), -1);
+}
+
 TEST_F(HeaderSort, SortsAmountsAsNumbers)
 {
     clickHeader(Fee);

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -275,6 +276,8 @@ TEST_F(HistoryTest, gridHasItsColumnsInOrder)
 {
     open();
     ASSERT_EQ(grid().columnCount(), 28);
+    EXPECT_EQ(grid().header()->sortIndicatorSection(), 0) << "as loaded: it holds no value";
+    EXPECT_EQ(grid().header()->sortIndicatorOrder(), Qt::AscendingOrder);
     for (int i = 0; i < 28; ++i) {
         const TdxTreeListColumn &column = *grid().column(i);
         EXPECT_EQ(column.objectName(), QStringLiteral("dxTLOldBill") + QString::fromUtf8(Columns[i][0]));

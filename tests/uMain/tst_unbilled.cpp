@@ -161,6 +161,8 @@ TEST_F(UnbilledTest, hasItsColumnsInOrder)
               "InputCode|录入人员代码|InputerCode\nInputName|录入人员姓名|InputerName\n"
               "IfInToday||IfInToday|hidden\nIfOutToday||IfOutToday|hidden\nDiagNo||DiagNo|hidden");
     EXPECT_EQ(grid().column(0)->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignHCenter);
+    EXPECT_EQ(grid().header()->sortIndicatorSection(), 0) << "as loaded: it holds no value";
+    EXPECT_EQ(grid().header()->sortIndicatorOrder(), Qt::AscendingOrder);
     EXPECT_EQ(grid().toolTip(), QStringLiteral("绿色表示当天入院记录；红色表示当天出院记录"));
 }
 
