@@ -38,6 +38,7 @@ QPalette calmPalette()
         palette.setColor(QPalette::Disabled, role, faint);
     }
     palette.setColor(QPalette::PlaceholderText, faint);
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x55, 0x61, 0x6B)); // totals are read all day
     palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0xEE, 0xF1, 0xF3));
     return palette;
 }

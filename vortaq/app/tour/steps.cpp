@@ -14,13 +14,15 @@ namespace vortaq {
 std::span<const TourStep> tourSteps()
 {
     static constexpr std::array Steps = {
-        TourStep{"未制单病人查询", &showUnbilledPage},  TourStep{"打开报销制单", &showBillMakingPage},
-        TourStep{"查看费用信息", &openFeeDetail},       TourStep{"选择报销记录", &tickCandidates},
-        TourStep{"查询制单机构", &lookInstitutionUp},   TourStep{"保存制单", &saveBill},
-        TourStep{"打开上报制单", &showReportedPage},    TourStep{"添加单据", &offerFurtherRecords},
-        TourStep{"整批上报制单", &reportBill},          TourStep{"打开退单制单", &showReturnedPage},
-        TourStep{"打开历史制单查询", &showHistoryPage}, TourStep{"打印结算单", &printSettlementSheet},
-        TourStep{"打印住院审批表", &printApprovalForm}, TourStep{"打印费用清单", &printFeeLists},
+        TourStep{"未制单病人查询", &showUnbilledPage}, TourStep{"打开报销制单", &showBillMakingPage},
+        TourStep{"查看费用信息", &openFeeDetail},      TourStep{"选择报销记录", &tickCandidates},
+        TourStep{"查询制单机构", &lookInstitutionUp},  TourStep{"保存制单", &saveBill},
+        TourStep{"打开上报制单", &showReportedPage},   TourStep{"添加单据", &addRecord},
+        TourStep{"单笔取消制单", &takeRecordOut},      TourStep{"整批上报制单", &reportBill},
+        TourStep{"整批取消制单", &cancelBill},         TourStep{"打开退单制单", &showReturnedPage},
+        TourStep{"重新上报退单", &reportAgain},        TourStep{"打开历史制单查询", &showHistoryPage},
+        TourStep{"打印结算单", &printSettlementSheet}, TourStep{"打印住院审批表", &printApprovalForm},
+        TourStep{"打印费用清单", &printFeeLists},
     };
     return Steps;
 }
@@ -46,6 +48,12 @@ QModelIndex chooseFirstBill(Guide &guide, QAbstractItemView &tree)
         throw TourError(QStringLiteral("“%1”中没有制单。").arg(tree.objectName()));
     guide.clickIndex(tree, bill);
     return bill;
+}
+
+void requireRows(const QAbstractItemView &grid)
+{
+    if (grid.model()->rowCount() == 0)
+        throw TourError(QStringLiteral("表格“%1”是空的。").arg(grid.objectName()));
 }
 
 void showDetail(Guide &guide, QAbstractItemView &grid, const QString &caption)

@@ -34,9 +34,12 @@ void tickCandidates(TourScene &scene);
 void lookInstitutionUp(TourScene &scene);
 void saveBill(TourScene &scene);
 void showReportedPage(TourScene &scene);
-void offerFurtherRecords(TourScene &scene);
+void addRecord(TourScene &scene);
+void takeRecordOut(TourScene &scene);
 void reportBill(TourScene &scene);
+void cancelBill(TourScene &scene);
 void showReturnedPage(TourScene &scene);
+void reportAgain(TourScene &scene);
 void showHistoryPage(TourScene &scene);
 void printSettlementSheet(TourScene &scene);
 void printApprovalForm(TourScene &scene);
@@ -48,6 +51,7 @@ void printFeeLists(TourScene &scene);
 void choosePage(Guide &guide, const QString &page);
 /// Clicks the first bill below the first institution of a tree and returns it.
 QModelIndex chooseFirstBill(Guide &guide, QAbstractItemView &tree);
+void requireRows(const QAbstractItemView &grid);
 /// Opens the detail dialog of a grid's first row by a double click, takes its picture and closes it.
 void showDetail(Guide &guide, QAbstractItemView &grid, const QString &caption);
 /// Waits for the hint, takes a picture and waits until it is gone.
