@@ -2,6 +2,8 @@
 // The decimal digits of a number, as display formats round and show them.
 #include "toolkit/decimaldigits.h"
 
+#include "toolkit/powersoften.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -14,18 +16,6 @@ namespace toolkit {
 namespace {
 
 constexpr int SignificantDigits = 18;
-
-/// Powers of ten that a 64-bit mantissa holds exactly.
-constexpr int ExactPowers = 27;
-constexpr auto PowersOfTen = [] {
-    std::array<long double, ExactPowers + 1> powers{};
-    long double power = 1;
-    for (long double &entry : powers) {
-        entry = power;
-        power *= 10;
-    }
-    return powers;
-}();
 
 template <typename... Arguments> std::string text(Arguments... arguments)
 {

@@ -2,8 +2,9 @@
 // Text to numbers, and the rounding of amounts.
 #include "toolkit/displayformat.h"
 
+#include "toolkit/powersoften.h"
+
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -35,18 +36,6 @@ constexpr std::string_view trimmed(std::string_view text)
 {
     throw std::invalid_argument("“" + std::string(text) + "”" + what);
 }
-
-/// Powers of ten that are exact in a long double (27 with a 64-bit mantissa, 22 with a 53-bit one).
-constexpr int ExactPowers = std::numeric_limits<long double>::digits >= 64 ? 27 : 22;
-constexpr auto PowersOfTen = [] {
-    std::array<long double, ExactPowers + 1> powers{};
-    long double power = 1;
-    for (long double &entry : powers) {
-        entry = power;
-        power *= 10;
-    }
-    return powers;
-}();
 
 /// A decimal number in parts; the value is `mantissa` times ten to the `exponent`, when all digits are in it.
 struct Decimal {
