@@ -70,4 +70,16 @@ inline int darkestSpot(TdxTreeList &grid, int row, const char *column)
     return darkest;
 }
 
+/// The same of the lightest spot: its text, where that is lighter than the background.
+inline int lightestSpot(TdxTreeList &grid, int row, const char *column)
+{
+    const QImage image = picture(grid, row, column);
+    int lightest = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            lightest = std::max(lightest, image.pixelColor(x, y).lightness());
+    }
+    return lightest;
+}
+
 } // namespace grids

@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The dialog "添加制单".
-#include "uAddBill/TfrmAddBill.h"
-
-#include "tests/support/desk.h"
 #include "tests/support/gridreading.h"
-#include "tests/support/hands.h"
-#include "tests/support/modalvisit.h"
-#include "tests/uMain/expected.h"
+#include "tests/uAddBill/addbill.h"
 #include "toolkit/CaptionPanel.h"
 
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
+#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
-
-#include <functional>
 
 using namespace expected;
 
@@ -37,8 +28,8 @@ const char *const GrantedOnly =
 const char *const ByDischarge = " order by OutDate ";
 
 const QString First = QStringLiteral("(OrgCode='42990101' and CoopMedCode='0012' and IDNo=1 and DiagNo=3)");
+const QString Second = QStringLiteral("(OrgCode='42990101' and CoopMedCode='0040' and IDNo=2 and DiagNo=1)");
 const QString Third = QStringLiteral("(OrgCode='42990102' and CoopMedCode='00''7' and IDNo=1 and DiagNo=1)");
-const QString Fourth = QStringLiteral("(OrgCode='42990101' and CoopMedCode='0012' and IDNo=1 and DiagNo=4)");
 
 QString assign(const QString &condition)
 {
@@ -80,45 +71,6 @@ const char *const Columns[][2] = {
     {"OrgCode", "当前医疗机构"},
 };
 
-/// Adds to bill 3 of 42990102, which has one record (10.00, 8.00).
-class AddBillTest : public testing::Test {
-protected:
-    using Work = std::function<void(QWidget &dialog)>;
-
-    /// Shows the dialog with its list loaded, does the work in it and closes it if the work has not.
-    void inDialog(const Work &work, const Desk::Options &options = Desk::Options(), const char *fixture = nullptr)
-    {
-        m_desk.emplace(options);
-        if (fixture != nullptr)
-            m_desk->sqlite(fixture);
-        m_desk->open();
-        (void)said();
-        const ModalVisit visit(QStringLiteral("frmAddBill"), work);
-        TfrmAddBill({QStringLiteral("42990102"), QStringLiteral("3")}, &m_desk->form()).ShowModal();
-    }
-
-    [[nodiscard]] QStringList said() { return m_desk->conversation().take(); }
-    [[nodiscard]] static TdxTreeList &grid(QWidget &dialog) { return hands::find<TdxTreeList>(dialog, "dxTLUp"); }
-    static void tick(QWidget &dialog, std::initializer_list<int> rows)
-    {
-        for (const int row : rows)
-            hands::clickCell(grid(dialog), row, "dxTLUpCheck");
-    }
-    [[nodiscard]] static QString totals(const QWidget &dialog)
-    {
-        QStringList texts;
-        for (const char *name : {"edtUpNum", "dxCEUpTotal", "dxCEUpCanFee", "dxCEUpFreeFee"})
-            texts.append(hands::find<QLineEdit>(dialog, name).text());
-        return texts.join(QLatin1Char('|'));
-    }
-    [[nodiscard]] QStringList bill() const
-    {
-        return m_desk->rows("select Fee,CanFreeFee,CheckStatus from o_CbZyZdb where BillCode='42990102' and BillNo=3");
-    }
-
-    std::optional<Desk> m_desk;
-};
-
 } // namespace
 
 TEST_F(AddBillTest, offersEveryDischargedRecordWithoutABill)
@@ -147,8 +99,12 @@ TEST_F(AddBillTest, grantedUsersAreOfferedTheirInstitutionsOnly)
     options.user = QStringLiteral("02");
     inDialog(
         [this](QWidget &dialog) {
-            EXPECT_TRUE(said().contains(openSql(QString::fromUtf8(Candidates) + QString::fromUtf8(GrantedOnly)
-                                                + QString::fromUtf8(ByDischarge))));
+            const QString format = read("DigitalFormat");
+            EXPECT_EQ(said(),
+                      QStringList({read("Color-5"), format, format, format, read("isBillAll"),
+                                   QStringLiteral("FuncStorage.UserID()"), read("RightCode")})
+                          + query(QString::fromUtf8(Candidates) + QString::fromUtf8(GrantedOnly)
+                                  + QString::fromUtf8(ByDischarge)));
             EXPECT_EQ(hands::columnTexts(grid(dialog), "dxTLUpOrgCode"), QStringList(3, QStringLiteral("42990101")));
         },
         options);
@@ -264,6 +220,46 @@ TEST_F(AddBillTest, savingJoinsTheRecordsAndSumsTheBillAnew)
     EXPECT_EQ(bill(), QStringList({QStringLiteral("1410.4|1088.05|1")}));
     EXPECT_EQ(m_desk->rows("select CoopMedCode from o_CbZyBxDj where BillCode='42990102' and BillNo=3 order by 1"),
               QStringList({QStringLiteral("00'7"), QStringLiteral("0012"), QStringLiteral("0080")}));
+}
+
+TEST_F(AddBillTest, recordsAreNamedInTheOrderThatTheHeaderGaveThem)
+{
+    inDialog([this](QWidget &dialog) {
+        QHeaderView &header = *grid(dialog).header();
+        const int name =
+            header.sectionViewportPosition(grid(dialog).columnByName(QStringLiteral("dxTLUpPatientName"))->position());
+        for (int click = 0; click < 2; ++click) // the second turns the order round
+            QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {name + 10, header.height() / 2});
+        ASSERT_EQ(hands::columnTexts(grid(dialog), "dxTLUpPatientName").join(u' '),
+                  QStringLiteral("张伟 王建国 王建国 李秀英"));
+        tick(dialog, {3, 1, 0});
+        (void)said();
+        hands::click(dialog, "btnSave");
+        EXPECT_EQ(
+            said().value(1),
+            assign(QStringLiteral(" ") + Third + QStringLiteral(" or ") + First + QStringLiteral(" or ") + Second));
+    });
+    EXPECT_EQ(bill(), QStringList({QStringLiteral("1610.6|1238.05|1")}));
+}
+
+// No statement asks whether the bill is still there: the records get the number of a bill that is gone, the sum finds
+// no row to go to, and the clerk is told of success.
+TEST_F(AddBillTest, addingToABillThatIsGoneStampsTheRecordsAllTheSame)
+{
+    inDialog([this](QWidget &dialog) {
+        m_desk->sqlite("delete from o_CbZyZdb where BillNo=3");
+        tick(dialog, {0});
+        (void)said();
+        hands::click(dialog, "btnSave");
+        EXPECT_EQ(said(),
+                  QStringList({Begin, assign(QStringLiteral(" ") + First), execSql(QString::fromUtf8(Recompute)),
+                               Commit, hint("添加制单成功！")}));
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_TRUE(bill().isEmpty());
+    EXPECT_EQ(m_desk->rows("select CoopMedCode,BillCode from o_CbZyBxDj where BillNo=3 order by 1"),
+              QStringList({QStringLiteral("0012|42990102"), QStringLiteral("0080|42990102")}));
+    EXPECT_TRUE(m_desk->errors().isEmpty());
 }
 
 TEST_F(AddBillTest, theBillsStatusStaysAndSoDoReviews)

@@ -5,6 +5,7 @@
 #include "tests/support/desk.h"
 #include "tests/support/gridreading.h"
 #include "tests/support/hands.h"
+#include "tests/support/hostcolours.h"
 #include "tests/support/modalvisit.h"
 #include "tests/uMain/expected.h"
 
@@ -230,6 +231,44 @@ TEST_F(DjOldTest, rowColoursFollowEachOther)
                                window}))
             << "the focus outdoes every colour; a deduction of the first review only has none";
     });
+}
+
+TEST_F(DjOldTest, textIsLightInTheFocusedRowOnly)
+{
+    inDialog("1", "4", [](QWidget &dialog) {
+        const auto expectLight = [&dialog](int focused) {
+            for (int row = 0; row < 5; ++row) {
+                EXPECT_EQ(grids::darkestSpot(items(dialog), row, "dxTLFeeInfoItemName") >= 60, row == focused) << row;
+                EXPECT_TRUE(row != focused || grids::lightestSpot(items(dialog), row, "dxTLFeeInfoItemName") > 220);
+            }
+        };
+        expectLight(0);
+        hands::clickCell(items(dialog), 2, "dxTLFeeInfoItemCode");
+        expectLight(2); // whatever colour the row would have
+        hands::clickCell(types(dialog), 1, "dxTLFeeTypeFee");
+        EXPECT_GT(grids::lightestSpot(types(dialog), 1, "dxTLFeeTypeName"), 220);
+        EXPECT_LT(grids::darkestSpot(types(dialog), 0, "dxTLFeeTypeName"), 60);
+    });
+}
+
+TEST_F(DjOldTest, coloursAreAskedAnewForEachPainting)
+{
+    inDialog("1", "4", [](QWidget &dialog) {
+        const QString window = dialog.palette().color(QPalette::Base).name();
+        EXPECT_EQ(grids::backgrounds(items(dialog), "dxTLFeeInfoItemCode").join(u' '),
+                  QStringLiteral("#336699 #ffc8c8 #ffe3bb #ffe3bb ") + window);
+        QHash<QString, QString> colours = {{QStringLiteral("Color-1"), QStringLiteral("255")},
+                                           {QStringLiteral("Color-2"), QStringLiteral("16250094")},
+                                           {QStringLiteral("Color-6"), QStringLiteral("65280")},
+                                           {QStringLiteral("Color-7"), QStringLiteral("16711680")}};
+        changeColours(colours);
+        EXPECT_EQ(grids::backgrounds(items(dialog), "dxTLFeeInfoItemCode").join(u' '),
+                  QStringLiteral("#ff0000 #0000ff #00ff00 #00ff00 ") + window);
+        colours[QStringLiteral("Color-7")] = QStringLiteral("13158655");
+        changeColours(colours);
+        EXPECT_EQ(grids::backgrounds(items(dialog), "dxTLFeeInfoItemCode").value(1), QStringLiteral("#ffc8c8"));
+    });
+    EXPECT_TRUE(m_desk->errors().isEmpty());
 }
 
 TEST_F(DjOldTest, hiddenDeductionsColourTheirRowsAllTheSame)

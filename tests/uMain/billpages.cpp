@@ -87,6 +87,20 @@ const BillPageParts Returned = {
     .deleteEmptied = " delete from o_CbZyZdb  where BillCode='42990101' and BillNo=%1",
 };
 
+const BillPageParts History = [] {
+    BillPageParts parts = Reported;
+    parts.name = "History";
+    parts.page = "TabSheet2";
+    parts.tree = "dxTLOldOrg";
+    parts.treeColumn = "dxTLOldOrgInfo";
+    parts.grid = "dxTLOldBill";
+    parts.interfaceColumn = "dxTLOldBillInterferIn";
+    parts.count = "edtOldNum";
+    parts.totalFee = "dxCEOldTotal";
+    parts.canFreeFee = "dxCEOldCan";
+    return parts;
+}();
+
 namespace {
 
 const char *const Bills = R"(

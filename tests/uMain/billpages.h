@@ -47,6 +47,7 @@ struct BillPageParts {
 
 extern const BillPageParts Reported;
 extern const BillPageParts Returned;
+extern const BillPageParts History; ///< the page "历史制单查询", as far as it is like them; lists bills in status "1"
 
 /// Which page a test is about, in its name.
 inline std::string pageName(const testing::TestParamInfo<const BillPageParts *> &info)

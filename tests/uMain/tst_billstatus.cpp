@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace expected;
 
 namespace {
@@ -76,4 +78,14 @@ TEST_F(CheckBillStatusTest, otherConnStylesAskNothing)
         EXPECT_TRUE(check(" '9' "));
     }
     EXPECT_TRUE(m_desk.conversation().take().isEmpty());
+}
+
+TEST_F(CheckBillStatusTest, aListThatFailsKeepsTheRestFromLoading)
+{
+    const auto fail = [] { throw std::runtime_error("故障"); };
+    m_workbench.reload.returnedBills = fail;
+    EXPECT_THROW((void)check(" '9' "), std::runtime_error);
+    EXPECT_EQ(m_reloaded,
+              QStringList({QStringLiteral("unbilled"), QStringLiteral("candidates"), QStringLiteral("reported")}));
+    EXPECT_TRUE(m_desk.conversation().take().last().startsWith(QStringLiteral("tell("))) << "it was told before";
 }

@@ -3,6 +3,10 @@
 #include "tests/support/modalvisit.h"
 #include "tests/uMain/billpages.h"
 
+#include <QAbstractButton>
+
+#include <functional>
+
 using namespace expected;
 
 namespace {
@@ -38,6 +42,25 @@ protected:
     [[nodiscard]] QStringList secondTriggers(const char *item)
     {
         return second([item](const QWidget &form) { hands::trigger(form, item); });
+    }
+
+    /// What a clerk does: opens the dialog for the bill chosen, ticks 李秀英 (200.20, 150.00) and saves, while
+    /// something else happens between the dialog's opening and his tick.
+    void add(
+        const Desk &desk, const std::function<void()> &meanwhile = [] {}) const
+    {
+        const ModalVisit visit(QStringLiteral("frmAddBill"), [&meanwhile](QWidget &dialog) {
+            meanwhile();
+            auto &list = hands::find<TdxTreeList>(dialog, "dxTLUp");
+            ASSERT_EQ(list.node(1).text(2), QStringLiteral("0040"));
+            hands::clickCell(list, 1, "dxTLUpCheck");
+            hands::click(dialog, "btnSave");
+        });
+        hands::find<QAbstractButton>(desk.form(), m_page->add).click();
+    }
+    [[nodiscard]] QStringList recordOfLi() const
+    {
+        return m_desk->rows("select BillCode,BillNo from o_CbZyBxDj where CoopMedCode='0040'");
     }
 
     std::optional<Desk> m_second;
@@ -130,4 +153,35 @@ TEST_P(TwoClerksTest, recordsThatTheFirstBilledAreLeftOutByTheSecond)
     EXPECT_EQ(m_desk->rows("select BillNo,CoopMedCode from o_CbZyBxDj where BillCode='42990101' and BillNo>21 "
                            "order by 1"),
               QStringList({QStringLiteral("22|0040"), QStringLiteral("23|0012")}));
+}
+
+// The statement that joins records to a bill does not ask whether they have joined another one meanwhile. The record
+// goes to the bill of whoever saves last, and only that bill is summed anew: the other one keeps amounts that its
+// records no longer make up, until its next change.
+TEST_P(TwoClerksTest, aRecordThatBothAddBelongsToTheLastWhoSaves)
+{
+    openBoth();
+    m_second->sitDown();
+    hands::clickNode(treeOf(*m_second), 0, Single);
+    (void)m_second->conversation().take();
+    add(*m_second, [this] {
+        m_desk->sitDown();
+        add(*m_desk);
+        EXPECT_EQ(recordOfLi(), QStringList({QStringLiteral("42990101|21")}));
+        m_second->sitDown();
+        (void)m_second->conversation().take();
+    });
+    const QStringList lines = m_second->conversation().take();
+    EXPECT_EQ(lines.filter(QStringLiteral("execSql")).size(), 2);
+    EXPECT_TRUE(lines.contains(hint("添加制单成功！"))) << "he is not told of the other";
+    EXPECT_TRUE(lines.filter(QStringLiteral("Alert")).isEmpty());
+    EXPECT_EQ(recordOfLi(), QStringList({QStringLiteral("42990101|20")}));
+    EXPECT_EQ(billRows().mid(0, 2).join(u' '),
+              QStringLiteral("21|1400.5|1100.15|%1 20|205.7|150|%1").arg(QString::fromUtf8(m_page->status)));
+
+    m_desk->sitDown();
+    EXPECT_TRUE(clickAndConfirm(m_page->cancelOne).contains(hint("取消制单成功！")));
+    EXPECT_EQ(billRows().first(), QStringLiteral("21|200.2|150.1|%1").arg(QString::fromUtf8(m_page->status)))
+        << "a change of the first bill puts its amounts right";
+    EXPECT_EQ(recordOfLi(), QStringList({QStringLiteral("42990101|20")}));
 }
