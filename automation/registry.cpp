@@ -18,9 +18,9 @@ QHash<QString, ObjectFactory> &factories()
 
 } // namespace
 
-void registerObject(const QString &identifier, ObjectFactory factory)
+void registerObject(const QString &identifier, const ObjectFactory &factory)
 {
-    factories().insert(identifier.toLower(), std::move(factory));
+    factories().insert(identifier.toLower(), factory);
 }
 
 void unregisterObject(const QString &identifier)

@@ -18,7 +18,7 @@ using ObjectFactory = std::function<std::unique_ptr<QObject>()>;
 
 /// Announces objects under `identifier` (for example "VortaqCore.DataCtl"; letter case does not count).
 /// A second registration replaces the first.
-AUTOMATION_EXPORT void registerObject(const QString &identifier, ObjectFactory factory);
+AUTOMATION_EXPORT void registerObject(const QString &identifier, const ObjectFactory &factory);
 
 /// Takes the announcement back; objects already created live on.
 AUTOMATION_EXPORT void unregisterObject(const QString &identifier);
