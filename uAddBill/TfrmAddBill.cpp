@@ -51,9 +51,13 @@ TfrmAddBill::~TfrmAddBill() = default;
 void TfrmAddBill::ShowModal()
 {
     FormShow();
-    if (parentWidget() != nullptr)
-        setFixedSize(parentWidget()->window()->size() * 9 / 10); // its border is not for dragging
-    move(screen()->availableGeometry().center() - rect().center());
+    QSize frame(0, 0); // before it is shown: that of the window behind it
+    if (parentWidget() != nullptr) {
+        const QWidget &behind = *parentWidget()->window();
+        setFixedSize(behind.size() * 9 / 10); // its border is not for dragging
+        frame = behind.frameSize() - behind.size();
+    }
+    move(screen()->availableGeometry().center() - QRect(QPoint(0, 0), size() + frame).center());
     exec();
 }
 
