@@ -233,14 +233,14 @@ TEST_F(Odbc, keepsWindowsLineEnds)
 
 TEST_F(Odbc, changesASourceInAnyLetterCaseAndLeavesItsOtherValues)
 {
-    put("[Hospital]\n; fast\nuid=old\nLogFile=/tmp/x\nPWD=secret\n\n[z]\na=b\n");
+    put("[Hospital]\n; fast\nuid=old\nLogFile=/var/log/x\nPWD=secret\n\n[z]\na=b\n");
     common::OdbcSource changed = source();
     changed.name = u"hospital"_s;
     changed.host.clear();
     ASSERT_TRUE(m_functions.WriteODBC(changed));
     const QByteArray whole = QByteArray::fromStdString(content());
     EXPECT_TRUE(whole.startsWith("[Hospital]\n; fast\n"));
-    EXPECT_EQ(whole.count("LogFile=/tmp/x\n"), 1);
+    EXPECT_EQ(whole.count("LogFile=/var/log/x\n"), 1);
     EXPECT_FALSE(whole.contains("secret"));
     EXPECT_FALSE(whole.contains("old"));
     EXPECT_EQ(whole.toLower().count("[hospital]"), 1);
