@@ -21,6 +21,8 @@
 
 #include <QScreen>
 
+#include <algorithm>
+
 TfrmAddBill::TfrmAddBill(data::BillKey bill, QWidget *parent)
     : QDialog(parent,
               Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
@@ -57,7 +59,9 @@ void TfrmAddBill::ShowModal()
         setFixedSize(behind.size() * 9 / 10); // its border is not for dragging
         frame = behind.frameSize() - behind.size();
     }
-    move(screen()->availableGeometry().center() - QRect(QPoint(0, 0), size() + frame).center());
+    const QRect place = screen()->availableGeometry();
+    const QPoint corner = place.center() - QRect(QPoint(0, 0), size() + frame).center();
+    move(std::max(corner.x(), place.left()), std::max(corner.y(), place.top())); // its title stays in reach
     exec();
 }
 

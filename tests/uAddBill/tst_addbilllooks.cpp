@@ -51,6 +51,19 @@ TEST_F(AddBillLooksTest, standsInTheMiddleOfTheScreenWhereverTheFormStands)
     }
 }
 
+TEST_F(AddBillLooksTest, onAScreenThatIsTooSmallItsTitleStaysInReach)
+{
+    m_desk.emplace();
+    QWidget &form = m_desk->open();
+    const QRect screen = form.screen()->availableGeometry();
+    form.resize(screen.size() * 2);
+    const ModalVisit visit(QStringLiteral("frmAddBill"), [&screen](QWidget &dialog) {
+        EXPECT_GT(dialog.height(), screen.height());
+        EXPECT_EQ(dialog.pos(), screen.topLeft());
+    });
+    TfrmAddBill({QStringLiteral("42990102"), QStringLiteral("3")}, &form).ShowModal();
+}
+
 TEST_F(AddBillLooksTest, totalsBoxesHaveTheirLabelsAndTakeNoTyping)
 {
     inDialog([](QWidget &dialog) {

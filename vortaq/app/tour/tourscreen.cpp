@@ -2,6 +2,10 @@
 // Describes the screen to Qt's offscreen platform, whose own default is smaller than the windows.
 #include "vortaq/app/tour/tourscreen.h"
 
+#include <QSize>
+
+#include <algorithm>
+
 namespace vortaq {
 
 namespace {
@@ -24,8 +28,10 @@ TourScreen::TourScreen(bool isTour)
         return;
     platform = QByteArrayLiteral("offscreen");
     if (m_configuration.open()) {
-        m_configuration.write(R"({"screens":[{"name":"tour","x":0,"y":0,"width":1440,"height":900,)"
-                              R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})");
+        const QSize size = QSize(1440, 900) * std::max(1.0, qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
+        m_configuration.write(R"({"screens":[{"name":"tour","x":0,"y":0,"width":)" + QByteArray::number(size.width())
+                              + R"(,"height":)" + QByteArray::number(size.height())
+                              + R"(,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})");
         m_configuration.close();
         platform += ":configfile=" + m_configuration.fileName().toUtf8();
     }
