@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "Common/odbcfile.h"
+// The file of the current user's data sources, changed by unixODBC's installer library.
+#include "Common/odbcstore.h"
 
 #include "Common/initext.h"
 
+#include <QByteArray>
 #include <QFile>
+#include <QSaveFile>
+#include <QString>
 
 #include <algorithm>
 #include <array>
 #include <odbcinst.h>
+#include <optional>
 #include <pwd.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -75,9 +80,7 @@ QString asBytes(const std::string &text)
     return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-} // namespace
-
-QString odbcFilePath()
+QString filePath()
 {
     const QByteArray chosen = qgetenv("ODBCINI");
     if (!chosen.isEmpty())
@@ -87,7 +90,9 @@ QString odbcFilePath()
     return QFile::decodeName(user == nullptr ? "/home" : user->pw_dir) + QStringLiteral("/.odbc.ini");
 }
 
-std::optional<QByteArray> withOdbcEntries(const QByteArray &content, const std::vector<OdbcEntry> &entries)
+/// The content with the entries as the library writes them; nothing when it cannot read the content, or would not read
+/// each value back from the result.
+std::optional<QByteArray> withEntries(const QByteArray &content, const std::vector<OdbcEntry> &entries)
 {
     const Copy copy;
     const auto written = [&copy](const OdbcEntry &entry) { return copy.write(entry); };
@@ -111,6 +116,28 @@ std::optional<QByteArray> withOdbcEntries(const QByteArray &content, const std::
     if (!copy.fill(changed) || !std::ranges::all_of(entries, held))
         return std::nullopt;
     return changed;
+}
+
+/// Replaces the file whole. A new one is for its owner's eyes: there are passwords in it.
+bool replaceFile(const QString &path, const QByteArray &content)
+{
+    const bool isNew = !QFile::exists(path);
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    return file.open(QIODevice::WriteOnly) && (!isNew || file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
+        && file.write(content) == content.size() && file.commit();
+}
+
+} // namespace
+
+bool storeOdbcEntries(const std::vector<OdbcEntry> &entries)
+{
+    const QString path = filePath();
+    QFile old(path);
+    if (old.exists() && !old.open(QIODevice::ReadOnly))
+        return false;
+    const std::optional<QByteArray> changed = withEntries(old.isOpen() ? old.readAll() : QByteArray(), entries);
+    return changed && replaceFile(path, *changed);
 }
 
 } // namespace common

@@ -3,13 +3,9 @@
 #include "Common/odbcsource.h"
 
 #include "Common/blanks.h"
-#include "Common/odbcfile.h"
-
-#include <QFile>
-#include <QSaveFile>
+#include "Common/odbcstore.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -68,16 +64,6 @@ std::vector<OdbcEntry> entriesOf(const OdbcSource &source)
     return entries;
 }
 
-/// Replaces the file whole. A new one is for its owner's eyes: there are passwords in it.
-bool replaceFile(const QString &path, const QByteArray &content)
-{
-    const bool isNew = !QFile::exists(path);
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    return file.open(QIODevice::WriteOnly) && (!isNew || file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
-        && file.write(content) == content.size() && file.commit();
-}
-
 } // namespace
 
 bool canHold(const OdbcSource &source)
@@ -91,15 +77,7 @@ bool canHold(const OdbcSource &source)
 
 bool writeOdbcSource(const OdbcSource &source)
 {
-    if (!canHold(source))
-        return false;
-    const QString path = odbcFilePath();
-    QFile old(path);
-    if (old.exists() && !old.open(QIODevice::ReadOnly))
-        return false;
-    const std::optional<QByteArray> changed =
-        withOdbcEntries(old.isOpen() ? old.readAll() : QByteArray(), entriesOf(source));
-    return changed && replaceFile(path, *changed);
+    return canHold(source) && storeOdbcEntries(entriesOf(source));
 }
 
 } // namespace common

@@ -25,10 +25,9 @@ struct OdbcSource {
 ///   499 bytes, which is all that the command odbcinst shows.
 [[nodiscard]] bool canHold(const OdbcSource &source);
 
-/// Writes the source, or changes the one of that name, and registers it, in the current user's configuration (see
-/// odbcFilePath()). Other sources, comments, and what else stands in the source's own entry stay. The file is replaced
-/// whole or not touched; a new one is readable by the user alone. False, and nothing is written, when canHold() says
-/// no, when the library cannot read the configuration there is, and when it cannot be written.
+/// Writes the source, or changes the one of that name, and registers it for the current user. Other sources, comments,
+/// and what else stands in the source's own entry stay. False, and nothing is written, when canHold() says no; false
+/// also when the configuration cannot be read or written (see storeOdbcEntries()).
 [[nodiscard]] bool writeOdbcSource(const OdbcSource &source);
 
 } // namespace common
