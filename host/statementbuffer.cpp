@@ -5,7 +5,7 @@
 
 namespace host {
 
-void StatementBuffer::LoadDataSet(TClientDataSet &target)
+void StatementBuffer::LoadDataSet(TClientDataSet &target) const
 {
     loadDataSet(shared().DataCtl, statement, target);
 }

@@ -16,7 +16,7 @@ public:
     QString statement;
 
     /// Runs the buffer as a query into the data set.
-    void LoadDataSet(TClientDataSet &target);
+    void LoadDataSet(TClientDataSet &target) const;
     /// Puts a statement in the buffer and runs it as a query into the data set.
     void LoadDataSet(const QString &sql, TClientDataSet &target);
     /// Puts a statement in the buffer and runs it as a change.

@@ -216,8 +216,7 @@ public:
 
     QList<QUrl> opened;
 
-public Q_SLOTS:
-    void open(const QUrl &url) { opened.append(url); }
+    Q_INVOKABLE void open(const QUrl &url) { opened.append(url); }
 };
 
 /// Counts how often its widget was brought to the front.

@@ -18,9 +18,9 @@ class LateBoundTest : public testing::Test {
 protected:
     LateBoundTest()
     {
-        automation::registerObject(QStringLiteral("Sample.Object"), [this] {
-            auto object = std::make_unique<SampleObject>(&m_living);
-            m_last = object.get();
+        automation::registerObject(QStringLiteral("Sample.Object"), [&living = m_living, &last = m_last] {
+            auto object = std::make_unique<SampleObject>(&living);
+            last = object.get();
             return object;
         });
     }

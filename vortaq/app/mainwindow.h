@@ -25,7 +25,6 @@ public:
     MainWindow(std::shared_ptr<Session> session, ModuleLibrary &module, const QString &database, Geometry geometry);
     ~MainWindow() override;
 
-public slots:
     /// Shows the module's form, making it when there is none. A form that was closed is shown anew.
     void openFunction();
     /// Frees the module's form and returns to the start page.

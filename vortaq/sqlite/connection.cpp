@@ -84,7 +84,7 @@ void Connection::fail(int code)
 {
     if (const auto error = m_functionFailure.error(); error && (code & 0xFF) == SQLITE_ERROR) {
         m_functionFailure.clear();
-        throw *error;
+        throw SqlError(*error);
     }
     throwFailure(handle(), code);
 }

@@ -44,7 +44,7 @@ bool PreparedStatement::step()
     return code == SQLITE_ROW;
 }
 
-void PreparedStatement::reset()
+void PreparedStatement::reset() const
 {
     sqlite3_reset(handle());
 }

@@ -24,7 +24,7 @@ public:
 
     /// True when there is a row to read.
     bool step();
-    void reset();
+    void reset() const;
 
     /// Columns count from 0; the text lives until the next step.
     [[nodiscard]] std::string_view text(int column) const;

@@ -49,6 +49,7 @@ void appendCell(automation::DataPacketBuilder &packet, const PreparedStatement &
 automation::DataPacketPtr readRows(PreparedStatement &statement, const std::vector<sql::OutputColumn> &columns)
 {
     std::vector<QString> names;
+    names.reserve(columns.size());
     for (const sql::OutputColumn &column : columns)
         names.push_back(QString::fromStdString(column.name));
     automation::DataPacketBuilder packet(std::move(names));

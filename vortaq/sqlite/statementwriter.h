@@ -46,10 +46,10 @@ private:
     void orderTerm(const sql::Query &query, const sql::OrderTerm &term);
     void sources(const std::vector<sql::Source> &sources);
     void source(const sql::Source &source);
-    void where(const sql::ConditionPtr &condition);
-    void stored(const sql::Expr &value, const sql::CatalogTable &table, std::size_t column);
+    void where(const sql::ConditionPtr &where);
+    void stored(const sql::Expr &stored, const sql::CatalogTable &table, std::size_t column);
 
-    void value(const sql::Expr &value);
+    void value(const sql::Expr &expression);
     void value(const sql::Literal &literal, const sql::Type &type);
     void value(const sql::ColumnRef &column, const sql::Type &type);
     void value(const sql::Conversion &conversion, const sql::Type &type);
@@ -63,16 +63,16 @@ private:
     void moment(const sql::Expr &operand, bool iso, int size);
     [[nodiscard]] bool convertPlainly(const sql::Conversion &conversion, const sql::Type &type);
     /// A value as the left side of a comparison: text with its collation.
-    void compared(const sql::Expr &value);
-    [[nodiscard]] bool comparesByItself(const sql::Expr &value) const;
+    void compared(const sql::Expr &expression);
+    [[nodiscard]] bool comparesByItself(const sql::Expr &expression) const;
 
-    void condition(const sql::Condition &condition);
+    void condition(const sql::Condition &tested);
     void condition(const sql::Comparison &comparison);
     void condition(const sql::NullTest &test);
     void condition(const sql::Between &between);
     void condition(const sql::Like &like);
     void condition(const sql::InList &list);
-    void condition(const sql::InQuery &query);
+    void condition(const sql::InQuery &inQuery);
     void condition(const sql::Exists &exists);
     void condition(const sql::Negated &negated);
     void condition(const sql::Junction &junction);

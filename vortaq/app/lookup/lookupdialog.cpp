@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <optional>
 
 namespace vortaq {
 
@@ -105,23 +106,28 @@ bool LookupDialog::moveBy(int key, Qt::KeyboardModifiers modifiers)
     const int current = m_table->currentIndex().row();
     const int page = std::max(1, m_table->viewport()->height() / m_table->verticalHeader()->defaultSectionSize() - 1);
     const bool control = modifiers.testFlag(Qt::ControlModifier);
-    int wanted = current;
-    if (key == Qt::Key_Up)
-        wanted = current - 1;
-    else if (key == Qt::Key_Down)
-        wanted = current + 1;
-    else if (key == Qt::Key_PageUp)
-        wanted = current - page;
-    else if (key == Qt::Key_PageDown)
-        wanted = current + page;
-    else if (key == Qt::Key_Home && control)
-        wanted = 0;
-    else if (key == Qt::Key_End && control)
-        wanted = last;
-    else
+    const auto wanted = [&]() -> std::optional<int> {
+        switch (key) {
+        case Qt::Key_Up:
+            return current - 1;
+        case Qt::Key_Down:
+            return current + 1;
+        case Qt::Key_PageUp:
+            return current - page;
+        case Qt::Key_PageDown:
+            return current + page;
+        case Qt::Key_Home:
+            return control ? std::optional(0) : std::nullopt;
+        case Qt::Key_End:
+            return control ? std::optional(last) : std::nullopt;
+        default:
+            return std::nullopt;
+        }
+    }();
+    if (!wanted)
         return false;
     if (last >= 0)
-        m_table->selectRow(std::clamp(wanted, 0, last));
+        m_table->selectRow(std::clamp(*wanted, 0, last));
     return true;
 }
 
