@@ -128,7 +128,7 @@ long double parseAmount(std::string_view utf8)
         && (std::numeric_limits<long double>::digits >= 64 || decimal.mantissa >> 53U == 0);
     if (!exact)
         return convertSlowly(text, decimal);
-    const long double mantissa = static_cast<long double>(decimal.mantissa);
+    const auto mantissa = static_cast<long double>(decimal.mantissa);
     const long double magnitude = decimal.exponent < 0
         ? mantissa / PowersOfTen[static_cast<std::size_t>(-decimal.exponent)]
         : mantissa * PowersOfTen[static_cast<std::size_t>(decimal.exponent)];

@@ -61,8 +61,8 @@ Fees makeFees(Day first, Day last, const Diagnosis &diagnosis, int averageLines,
     const int count = random.between(1, 2 * averageLines - 1);
     fees.lines.reserve(static_cast<std::size_t>(count));
     if (count >= 3) {
-        addLine(fees, feeItems()[bedItem], days * 100, first, first, random);
-        addLine(fees, feeItems()[nursingItem], days * 100, first, first, random);
+        addLine(fees, feeItems()[bedItem], days * std::int64_t{100}, first, first, random);
+        addLine(fees, feeItems()[nursingItem], days * std::int64_t{100}, first, first, random);
     }
     // Where few lines stand for a whole stay, each of them is larger.
     const int scale = std::max(1, usualLines / averageLines);

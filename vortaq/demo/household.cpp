@@ -153,7 +153,7 @@ void HouseholdMaker::dateStay(Stay &stay) const
 void HouseholdMaker::dealStays(Household &household, bool hasBaby)
 {
     const std::size_t grownUps = household.members.size() - (hasBaby ? 1 : 0);
-    std::size_t next = static_cast<std::size_t>(m_random.below(static_cast<int>(grownUps)));
+    auto next = static_cast<std::size_t>(m_random.below(static_cast<int>(grownUps)));
     const Stay *previous = nullptr;
     for (Stay &stay : household.stays) {
         // Nobody lies in two beds at once.

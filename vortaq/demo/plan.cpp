@@ -33,6 +33,7 @@ std::vector<int> billSizes(int stays, int usualSize, Random &random)
 {
     const int bills = std::max(1, stays / usualSize);
     std::vector<int> sizes;
+    sizes.reserve(static_cast<std::size_t>(bills));
     for (int i = 0; i < bills; ++i)
         sizes.push_back(stays / bills + (i < stays % bills ? 1 : 0));
     for (std::size_t i = 0; i + 1 < sizes.size(); i += 2) {

@@ -29,8 +29,11 @@ std::string insertBill(const std::string &number, const std::string &condition)
 
 class Changes : public testing::Test {
 protected:
-    int change(const std::string &statement) { return vortaq::test::change(*m_hospital.engine, statement); }
-    std::string ask(const std::string &query) { return vortaq::test::ask(*m_hospital.engine, query); }
+    int change(const std::string &statement) const { return vortaq::test::change(*m_hospital.engine, statement); }
+    [[nodiscard]] std::string ask(const std::string &query) const
+    {
+        return vortaq::test::ask(*m_hospital.engine, query);
+    }
 
     Hospital m_hospital;
 };

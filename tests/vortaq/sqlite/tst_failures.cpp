@@ -88,7 +88,7 @@ TEST(Opening, ATruncatedDatabase)
     {
         QFile file(database.file());
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        ASSERT_TRUE(file.resize(3 * 4096));
+        ASSERT_TRUE(file.resize(qint64{3} * 4096));
     }
     EXPECT_EQ(errorOf([&] {
                   const auto engine = database.open();
@@ -177,7 +177,7 @@ TEST(Busy, AnotherProgramHoldsTheFile)
 
 class Refused : public testing::Test {
 protected:
-    std::string changeError(const std::string &statement)
+    [[nodiscard]] std::string changeError(const std::string &statement) const
     {
         return errorOf([&] { change(*m_hospital.engine, statement); });
     }

@@ -10,7 +10,7 @@ using namespace vortaq::test;
 
 class Transactions : public testing::Test {
 protected:
-    int change(const std::string &statement) { return vortaq::test::change(*m_hospital.engine, statement); }
+    int change(const std::string &statement) const { return vortaq::test::change(*m_hospital.engine, statement); }
     [[nodiscard]] std::string bills() const
     {
         return m_hospital.database.look("select group_concat(BillNo) from o_CbZyZdb");

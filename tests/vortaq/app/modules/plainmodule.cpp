@@ -64,6 +64,7 @@ int32_t RefreshModule(intptr_t, intptr_t)
 int32_t GetModuleInfo(intptr_t, char **buffer)
 {
     // "Plain,Work(业务管理),Bill(制单),2(4),"
-    std::strcpy(*buffer, "Plain,Work(\xD2\xB5\xCE\xF1\xB9\xDC\xC0\xED),Bill(\xD6\xC6\xB5\xA5),2(4),");
+    constexpr char information[] = "Plain,Work(\xD2\xB5\xCE\xF1\xB9\xDC\xC0\xED),Bill(\xD6\xC6\xB5\xA5),2(4),";
+    std::memcpy(*buffer, information, sizeof information);
     return TARNWELL_OK;
 }

@@ -19,7 +19,7 @@ namespace vortaq::test {
 class ScriptedEngine : public Engine {
 public:
     /// What a query of exactly this text returns. Any other query raises an error.
-    void answer(const QString &sql, automation::DataPacketPtr rows) { m_answers.insert(sql, std::move(rows)); }
+    void answer(const QString &sql, const automation::DataPacketPtr &rows) { m_answers.insert(sql, rows); }
     /// Makes every following call raise this; empty ends it.
     void failWith(const QString &message) { m_failure = message; }
     /// Runs inside each call.
