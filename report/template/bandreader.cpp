@@ -202,7 +202,7 @@ void BandReader::closeTable(const TableState &table, const TemplateStyle &style,
 {
     const std::vector<Unit> &ends = table.places.rowEnds();
     for (const TableCell &cell : table.cells) {
-        const std::size_t last = static_cast<std::size_t>(cell.firstRow + cell.rows - 1);
+        const auto last = static_cast<std::size_t>(cell.firstRow + cell.rows - 1);
         if (last >= ends.size())
             fail(cell.sourceLine, QStringLiteral("单元格占 %1 行，下面没有这么多行").arg(cell.rows));
         Rect &box = m_band.texts[cell.text].box;

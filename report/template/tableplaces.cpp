@@ -3,7 +3,7 @@
 
 namespace report {
 
-TablePlaces::TablePlaces(Unit left, Unit top, std::vector<Unit> widths)
+TablePlaces::TablePlaces(Unit left, Unit top, const std::vector<Unit> &widths)
     : m_takenRows(widths.size(), 0)
     , m_top(top)
 {

@@ -11,7 +11,7 @@ namespace report {
 /// Rows are added from top to bottom, cells from left to right; a cell over several rows keeps its columns taken below.
 class TablePlaces {
 public:
-    TablePlaces(Unit left, Unit top, std::vector<Unit> widths);
+    TablePlaces(Unit left, Unit top, const std::vector<Unit> &widths);
 
     void addRow(Unit height);
     /// Place of the next cell of the row, as far as it is known: of a cell over several rows the height is that of the

@@ -21,7 +21,7 @@ namespace report {
 
 namespace {
 
-constexpr qint64 LargestFile = 4 * 1024 * 1024;
+constexpr qint64 LargestFile = 4LL * 1024 * 1024;
 constexpr Unit UsualMargin = 1500;
 
 struct PaperName {

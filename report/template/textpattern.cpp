@@ -3,6 +3,7 @@
 
 #include <QStringView>
 
+#include <algorithm>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -18,13 +19,8 @@ namespace {
 
 bool isName(QStringView text)
 {
-    if (text.isEmpty() || text.front().isDigit())
-        return false;
-    for (const QChar character : text) {
-        if (!character.isLetterOrNumber() && character != u'_')
-            return false;
-    }
-    return true;
+    const auto belongs = [](QChar character) { return character.isLetterOrNumber() || character == u'_'; };
+    return !text.isEmpty() && !text.front().isDigit() && std::ranges::all_of(text, belongs);
 }
 
 /// The argument when `text` reads "function(argument)".
@@ -88,11 +84,9 @@ bool TextPattern::isNumber() const noexcept
 
 bool TextPattern::holdsNumber() const noexcept
 {
-    for (const PatternPiece &piece : pieces) {
-        if (piece.hasExpression && (!piece.expression.format.isEmpty() || piece.expression.inCapitals))
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(pieces, [](const PatternPiece &piece) {
+        return piece.hasExpression && (!piece.expression.format.isEmpty() || piece.expression.inCapitals);
+    });
 }
 
 TextPattern parsePattern(const QString &text)

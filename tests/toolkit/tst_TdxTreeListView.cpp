@@ -204,7 +204,7 @@ TEST_F(View, BoxStandsInTheMiddleOfItsCell)
         }
     }
     EXPECT_GT(right - left, 5);
-    EXPECT_NEAR((left + right) / 2, cell.center().x(), 1);
+    EXPECT_NEAR((left + right) / 2.0, cell.center().x(), 1);
 }
 
 // ---- band

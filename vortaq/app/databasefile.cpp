@@ -39,7 +39,7 @@ QString prepareDatabase(const QString &location)
 {
     if (location.contains(QStringLiteral("://")))
         throw cannotOpen(QStringLiteral("只支持数据库文件，不支持数据库服务器地址：\n") + location);
-    const QString file = location.isEmpty() ? defaultDatabaseFile() : QFileInfo(location).absoluteFilePath();
+    QString file = location.isEmpty() ? defaultDatabaseFile() : QFileInfo(location).absoluteFilePath();
     if (location.isEmpty() && !QFileInfo::exists(file))
         makeDefaultDatabase(file);
     return file;

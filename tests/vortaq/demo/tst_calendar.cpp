@@ -6,6 +6,7 @@
 #include <QDate>
 
 #include <array>
+#include <map>
 #include <numeric>
 
 #include <gtest/gtest.h>
@@ -68,11 +69,14 @@ TEST(Random, IsThePublishedSequence)
 TEST(Random, StaysInItsBoundsAndReachesThem)
 {
     Random random(3);
-    std::array<int, 7> hits{};
+    std::map<int, int> hits;
     for (int i = 0; i < 10'000; ++i)
-        ++hits.at(static_cast<std::size_t>(random.between(-3, 3) + 3));
-    for (const int count : hits)
-        EXPECT_NEAR(count, 10'000 / 7, 200);
+        ++hits[random.between(-3, 3)];
+    EXPECT_EQ(hits.begin()->first, -3);
+    EXPECT_EQ(hits.rbegin()->first, 3);
+    EXPECT_EQ(hits.size(), 7U);
+    for (const auto &[number, count] : hits)
+        EXPECT_NEAR(count, 10'000 / 7.0, 200) << number;
     EXPECT_EQ(random.below(1), 0);
 }
 
