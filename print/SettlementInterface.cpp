@@ -40,7 +40,7 @@ double SettlementInterface::byProcedure(const data::RecordKey &key, int billType
     return value;
 }
 
-double SettlementInterface::byLibrary(const data::RecordKey &key)
+double SettlementInterface::byLibrary(const data::RecordKey &key) const
 {
     const LibraryAnswer answer = askSettlementLibrary(FeeDllPath.trimmed(), key);
     switch (answer.outcome) {

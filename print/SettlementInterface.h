@@ -36,7 +36,7 @@ public:
 
 private:
     double byProcedure(const data::RecordKey &key, int billType);
-    double byLibrary(const data::RecordKey &key);
+    double byLibrary(const data::RecordKey &key) const;
 
     host::StatementBuffer &m_statements;
     QString m_printInfo;

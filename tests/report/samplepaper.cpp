@@ -31,6 +31,8 @@ std::vector<QString> names(const char *list)
 
 void fillSettlement(TClientDataSet &dataSet)
 {
+    const std::string calculation = "总费用6843.52元，可报销费用5412.05元，起付线100元，补偿比例80%；"
+                                    "计算：（5412.05-100.00）×80%=4249.64元。本年度累计补偿未超过封顶线。";
     fill(dataSet,
          names("CoopMedCode,HospitalName,HouseHolder,PatientName,Sex,BirthDay,RelationName,Address,InDate,OutDate,"
                "DayCount,PatientNo,IllName,InHosCount,Fee,CanFreeFee,FreeFee,MzFee,HosFee,HomeProperty,LimitDef,"
@@ -57,8 +59,7 @@ void fillSettlement(TClientDataSet &dataSet)
            "低保户/优抚对象",
            "限额10000",
            "乡镇卫生院：（可报销费用-起付线100元）×80%",
-           "总费用6843.52元，可报销费用5412.05元，起付线100元，补偿比例80%；计算：（5412.05-100.00）×80%=4249.64元。"
-           "本年度累计补偿未超过封顶线。",
+           calculation,
            "11930.2700",
            "7012.3300"}});
 }

@@ -80,7 +80,7 @@ Desk::Desk(const Options &options)
     sitDown();
 
     vortaq::OpenOptions opening;
-    opening.clock = [today = options.today] { return today.startOfDay().addSecs(9 * 3600); };
+    opening.clock = [today = options.today] { return today.startOfDay().addSecs(9 * qint64{3600}); };
     m_engine = std::make_shared<FailingEngine>(vortaq::openSqlite(m_databaseFile, opening));
     const std::shared_ptr<vortaq::Session> session = vortaq::signIn(m_engine, options.user, options.parameters);
     m_objects = std::make_unique<vortaq::HostObjects>(session, std::make_shared<SilentMessages>());

@@ -182,7 +182,7 @@ TEST_F(AddBillTest, totalsAreEmptyBeforeTheFirstTickAndFollowTheTicks)
 
 TEST_F(AddBillTest, aTypedAmountFeedsTheTotalsAtTheNextTickAndIsNeverSaved)
 {
-    inDialog([this](QWidget &dialog) {
+    inDialog([](QWidget &dialog) {
         tick(dialog, {0});
         const QModelIndex cell = grid(dialog).model()->index(0, 13);
         ASSERT_TRUE(grid(dialog).model()->setData(cell, QStringLiteral("77.5"), Qt::EditRole));

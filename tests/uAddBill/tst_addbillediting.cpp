@@ -126,7 +126,7 @@ TEST_F(AddBillEditingTest, textThatIsNoNumberReachesTheHostAtTheNextTick)
 
 TEST_F(AddBillEditingTest, textThatIsNoNumberKeepsNothingFromBeingSaved)
 {
-    inDialog([this](QWidget &dialog) {
+    inDialog([](QWidget &dialog) {
         typeAndEnter(dialog, 0, "abc");
         tick(dialog, {0});
         hands::click(dialog, "btnSave");

@@ -37,7 +37,7 @@ protected:
     /// A small demo database.
     QString demo()
     {
-        const QString file = m_program.path(QStringLiteral("demo.db"));
+        QString file = m_program.path(QStringLiteral("demo.db"));
         const Outcome outcome = m_program.run({QStringLiteral("--create-demo"), file, QStringLiteral("--records"),
                                                QStringLiteral("300"), QStringLiteral("--archived=20")});
         EXPECT_EQ(outcome.exitCode, 0) << outcome.errors.toStdString();
