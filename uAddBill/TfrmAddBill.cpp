@@ -70,8 +70,8 @@ void TfrmAddBill::FormShow()
     m_ui->pnlAdd->setCaption(m_ui->LbAdd, data::reimbursementTitle());
     applyBackground(*m_ui->dxTLUp);
     ApplyMoneyFormat(*m_ui->dxTLUp);
-    const auto *money =
-        m_ui->dxTLUp->findChild<TdxTreeListCurrencyColumn *>(QStringLiteral("dxTLUpTotalFee")); // the host was asked
+    // The totals are money like the list above them; the host has just told its format.
+    const auto *money = m_ui->dxTLUp->findChild<TdxTreeListCurrencyColumn *>(QStringLiteral("dxTLUpTotalFee"));
     for (TdxCurrencyEdit *edit : {m_ui->dxCEUpTotal, m_ui->dxCEUpCanFee, m_ui->dxCEUpFreeFee})
         edit->setDisplayFormat(money->displayFormat());
     LoadAddCandidates();
