@@ -18,19 +18,65 @@ if(TARNWELL_SANITIZE)
   target_link_options(tarnwell_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# tarnwell_library(NAME SOURCES ... [LINK ...]): a static library of one folder.
+# What only tests are compiled with. Under the sanitizers a test's own lines are run once: optimising them costs more than
+# it saves.
+add_library(tarnwell_test_options INTERFACE)
+target_link_libraries(tarnwell_test_options INTERFACE tarnwell_options)
+if(TARNWELL_SANITIZE)
+  target_compile_options(tarnwell_test_options INTERFACE -O0)
+endif()
+# More than a hundred programs are linked for the tests.
+find_program(TARNWELL_MOLD mold)
+if(TARNWELL_TESTS AND TARNWELL_MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_link_options(tarnwell_options INTERFACE -fuse-ld=mold)
+endif()
+
+# Precompiled headers: each is made once and shared by all targets that name it. Reading Qt's headers is most of a
+# compiler's work here. A source may not lean on them: it includes what it uses, as headers do by a test of their own.
+function(tarnwell_precompiled level)
+  set(name tarnwell_precompiled_${level})
+  add_library(${name} OBJECT ${CMAKE_SOURCE_DIR}/cmake/precompiled/none.cpp)
+  target_link_libraries(${name} PRIVATE tarnwell_options ${ARGN})
+  target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/precompiled/${level}.h)
+endfunction()
+tarnwell_precompiled(standard)
+tarnwell_precompiled(core Qt6::Core)
+tarnwell_precompiled(widgets Qt6::Widgets)
+if(TARNWELL_TESTS)
+  tarnwell_precompiled(plaintests tarnwell_test_options GTest::gmock)
+  tarnwell_precompiled(tests tarnwell_test_options Qt6::Widgets Qt6::Test GTest::gmock)
+endif()
+
+# tarnwell_library(NAME SOURCES ... [LINK ...] [PRECOMPILED standard|core|widgets|tests] [MOC]): a static library of one
+# folder. MOC where it has classes or layouts for Qt's generators, which take time even where they find nothing.
 function(tarnwell_library name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(arg "MOC" "PRECOMPILED" "SOURCES;LINK" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
   target_link_libraries(${name} PUBLIC tarnwell_options ${arg_LINK})
+  if(arg_MOC)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+  endif()
+  if(arg_PRECOMPILED)
+    target_precompile_headers(${name} REUSE_FROM tarnwell_precompiled_${arg_PRECOMPILED})
+  endif()
 endfunction()
 
-# tarnwell_test(NAME LABEL unit|integration SOURCES ... [LINK ...] [ENVIRONMENT ...] [SHARDS n]): one test executable, one CTest
-# entry a test case. Tests run offscreen with one locale and time zone, from a folder of their own.
+# tarnwell_test(NAME LABEL unit|integration SOURCES ... [LINK ...] [ENVIRONMENT ...] [SHARDS n] [MOC]): one test executable,
+# one CTest entry or as many as shards. Tests run offscreen with one locale and time zone, from a folder of their own.
 function(tarnwell_test name)
-  cmake_parse_arguments(arg "" "LABEL;SHARDS" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(arg "MOC" "LABEL;SHARDS" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
-  target_link_libraries(${name} PRIVATE tarnwell_options ${arg_LINK} GTest::gtest GTest::gmock)
+  if(arg_MOC)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  endif()
+  target_link_libraries(${name} PRIVATE tarnwell_test_options ${arg_LINK} GTest::gtest GTest::gmock)
+  # With a window or without: those without bring GoogleTest's own main().
+  if(GTest::gtest_main IN_LIST arg_LINK)
+    target_precompile_headers(${name} REUSE_FROM tarnwell_precompiled_plaintests)
+    target_compile_options(${name} PRIVATE -fPIC) # as libraries are, and so the precompiled header
+  else()
+    target_precompile_headers(${name} REUSE_FROM tarnwell_precompiled_tests)
+  endif()
   set(sanitizer_options "ASAN_OPTIONS=detect_stack_use_after_return=1;UBSAN_OPTIONS=print_stacktrace=1")
   # Scratch databases wait for the disk at every commit; in memory they do not.
   if(EXISTS /dev/shm)

@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+// A precompiled header is made by compiling something.
