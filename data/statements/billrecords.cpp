@@ -8,10 +8,16 @@ namespace data {
 
 using namespace Qt::Literals::StringLiterals;
 
+// Statements break at their clauses.
+// clang-format off
+
 QString billRecordColumns(QStringView beforeExpense)
 {
-    return selectRecordColumns() + amountTextColumns() + u"Checkone,InterfaceIn,AreaCode, "_s + isCheckColumn()
-        + u",InputerCode,InputerName,"_s + beforeExpense.toString() + expenseNameColumn();
+    return selectRecordColumns() + amountTextColumns()
+         + u"Checkone,InterfaceIn,AreaCode, "_s + isCheckColumn()
+         + u",InputerCode,InputerName,"_s + beforeExpense.toString() + expenseNameColumn();
 }
+
+// clang-format on
 
 } // namespace data

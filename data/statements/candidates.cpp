@@ -8,6 +8,9 @@ namespace data {
 
 using namespace Qt::Literals::StringLiterals;
 
+// Statements break at their clauses.
+// clang-format off
+
 namespace {
 
 constexpr RecordFilterIndent PageIndent{.tables = 17, .conditions = 20};
@@ -22,19 +25,24 @@ QString filterOf(const std::optional<Grant> &grant, const RecordFilterIndent &in
 
 QString billCandidates(const std::optional<Grant> &grant)
 {
-    return selectRecordColumns() + amountTextColumns() + u"InputerCode,InputerName,InterfaceIn,AreaCode, "_s
-        + isCheckColumn() + u",ExpressionsID,LimitDef,Ke, "_s + expenseNameColumn()
-        + u" from o_CbZyBxDj  where BillNo is null and OutDate is not null "_s + filterOf(grant, PageIndent)
-        + u" order by JsDate "_s;
+    return selectRecordColumns() + amountTextColumns()
+         + u"InputerCode,InputerName,InterfaceIn,AreaCode, "_s + isCheckColumn()
+         + u",ExpressionsID,LimitDef,Ke, "_s + expenseNameColumn()
+         + u" from o_CbZyBxDj"
+           u"  where BillNo is null and OutDate is not null "_s + filterOf(grant, PageIndent)
+         + u" order by JsDate "_s;
 }
 
 QString addBillCandidates(const std::optional<Grant> &grant)
 {
     return selectRecordColumns()
-        + u" TotalFee,CanFreeFee,FreeFee,DoctorName,CheckOneFee,InputerCode,InputerName,InterfaceIn,"
-          u"AreaCode, "_s
-        + isCheckColumn() + u"  from o_cbzybxdj  where BillNo is null and OutDate is not null "_s
-        + filterOf(grant, DialogIndent) + u" order by OutDate "_s;
+         + u" TotalFee,CanFreeFee,FreeFee,DoctorName,CheckOneFee,InputerCode,InputerName,InterfaceIn,AreaCode, "_s
+         + isCheckColumn()
+         + u"  from o_cbzybxdj"
+           u"  where BillNo is null and OutDate is not null "_s + filterOf(grant, DialogIndent)
+         + u" order by OutDate "_s;
 }
+
+// clang-format on
 
 } // namespace data

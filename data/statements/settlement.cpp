@@ -9,6 +9,9 @@ namespace data {
 
 using namespace Qt::Literals::StringLiterals;
 
+// Statements break at their clauses.
+// clang-format off
+
 namespace {
 
 constexpr int SqlServerStyle = 1;
@@ -19,11 +22,15 @@ constexpr RecordKeySpelling FeeSpelling{u"OrgCode=", u" and CoopMedCode=", u"   
 /// Sum of a column over all stays of the member, in use and archived; `alias` closes the text.
 QString lifetimeSum(const QString &column, const QString &prefix, const QString &alias)
 {
-    const QString ofMember = u"        where a.CoopMedCode="_s + prefix + u"_CbZyJsb.CoopMedCode and a.IDNo="_s + prefix
-        + u"_CbZyJsb.IDNo "_s;
+    const QString ofMember = u"        where a.CoopMedCode="_s + prefix + u"_CbZyJsb.CoopMedCode"
+                             u" and a.IDNo="_s + prefix + u"_CbZyJsb.IDNo "_s;
     const QString sum = u"sum("_s + column + u") "_s;
-    return u" (select "_s + sum + u"  from (select "_s + sum + column + u" from o_CbZyBxDj a "_s + ofMember
-        + u"        union all "_s + u"        select "_s + sum + u"from s_CbZyBxDj a "_s + ofMember + u") a)"_s + alias;
+    return u" (select "_s + sum
+         + u"  from (select "_s + sum + column + u" from o_CbZyBxDj a "_s
+         + ofMember
+         + u"        union all "
+           u"        select "_s + sum + u"from s_CbZyBxDj a "_s
+         + ofMember + u") a)"_s + alias;
 }
 
 } // namespace
@@ -35,8 +42,9 @@ LengthFunction lengthFunction(int connStyle)
 
 QString homeProperty(const QString &coopMedCode, const QString &idNo)
 {
-    return u" select HomeProperty from p_CbNhGrXx  where CoopMedCode="_s + quotedStr(coopMedCode) + u" and IDNo="_s
-        + idNo;
+    return u" select HomeProperty"
+           u" from p_CbNhGrXx"
+           u"  where CoopMedCode="_s + quotedStr(coopMedCode) + u" and IDNo="_s + idNo;
 }
 
 QString homeProperties()
@@ -51,42 +59,50 @@ QString formulaName(const QString &expressionsId)
 
 QString settlementSheet(const QString &prefix, const RecordKey &key, const QString &homePropertyText)
 {
-    return u" select CoopMedCode,HospitalName,HouseHolder,PatientName,Sex,convert(varchar(10),"
-           u"BirthDay,126) as BirthDay, RelationName,Address,convert(varchar(10),InDate,126) as"
-           u" InDate,convert(varchar(10),OutDate,126) as OutDate, DayCount,PatientNo,IllName,"
-           u"InHosCount,Fee,CanFreeFee,FreeFee,MzFee,HosFee,"_s
-        + quotedStr(homePropertyText) + u" as HomeProperty "_s + u" from "_s + prefix + u"_CbZyJsb "_s + u" where "_s
-        + recordCondition(key);
+    return u" select CoopMedCode,HospitalName,HouseHolder,PatientName,Sex,convert(varchar(10),BirthDay,126) as BirthDay,"
+           u" RelationName,Address,convert(varchar(10),InDate,126) as InDate,convert(varchar(10),OutDate,126) as OutDate,"
+           u" DayCount,PatientNo,IllName,InHosCount,Fee,CanFreeFee,FreeFee,MzFee,HosFee,"_s
+         + quotedStr(homePropertyText) + u" as HomeProperty "
+           u" from "_s + prefix + u"_CbZyJsb "
+           u" where "_s + recordCondition(key);
 }
 
 QString settlementFees(const QString &prefix, const RecordKey &key)
 {
-    return u" select FeeTypeCode,Fee,CanFreeFee,FreeFee  from "_s + prefix + u"_CbZyJsMxb "_s + u" where "_s
-        + recordCondition(key, FeeSpelling);
+    return u" select FeeTypeCode,Fee,CanFreeFee,FreeFee"
+           u"  from "_s + prefix + u"_CbZyJsMxb "
+           u" where "_s + recordCondition(key, FeeSpelling);
 }
 
 QString sheetFeeTypes(LengthFunction length)
 {
-    return u" select FeeTypeCode,FeeTypeName from p_fylb where "_s
-        + (length == LengthFunction::Len ? u"len"_s : u"length"_s) + u"(feetypecode)=2 order by FeeTypeCode "_s;
+    return u" select FeeTypeCode,FeeTypeName"
+           u" from p_fylb"
+           u" where "_s + (length == LengthFunction::Len ? u"len"_s : u"length"_s) + u"(feetypecode)=2"
+           u" order by FeeTypeCode "_s;
 }
 
 QString formFeeTypes(LengthFunction length)
 {
-    return u" select FeeTypeCode,FeeTypeName from p_Fylb where "_s
-        + (length == LengthFunction::Len ? u"Len"_s : u"Length"_s) + u"(FeeTypeCode)=2 order by FeeTypeCode "_s;
+    return u" select FeeTypeCode,FeeTypeName"
+           u" from p_Fylb"
+           u" where "_s + (length == LengthFunction::Len ? u"Len"_s : u"Length"_s) + u"(FeeTypeCode)=2"
+           u" order by FeeTypeCode "_s;
 }
 
 QString approvalForm(const QString &prefix, const RecordKey &key, const ApprovalTexts &texts)
 {
-    return u" select CoopMedCode,PatientName,HouseHolder,Sex,convert(varchar(10),BirthDay,126) as"
-           u" BirthDay,  RelationName,Address,HospitalName,InHosCount,convert(varchar(10),InDate,126)"
-           u" as InDate,  convert(varchar(10),OutDate,126) as OutDate,DayCount,PatientNo,"_s
-        + quotedStr(texts.limit) + u" as LimitDef,"_s + u" IllName,Fee,CanFreeFee,FreeFee,MzFee,HosFee,"_s
-        + quotedStr(texts.formula) + u" as ExpressionsName,"_s + quotedStr(texts.printInfo) + u" as PrintInfo,"_s
-        + lifetimeSum(u"TotalFee"_s, prefix, u" TSumTotalFee,"_s)
-        + lifetimeSum(u"FreeFee"_s, prefix, u" as TSumFree "_s) + u" from "_s + prefix + u"_CbZyJsb "_s + u" where "_s
-        + recordCondition(key);
+    return u" select CoopMedCode,PatientName,HouseHolder,Sex,convert(varchar(10),BirthDay,126) as BirthDay,"
+           u"  RelationName,Address,HospitalName,InHosCount,convert(varchar(10),InDate,126) as InDate,"
+           u"  convert(varchar(10),OutDate,126) as OutDate,DayCount,PatientNo,"_s
+         + quotedStr(texts.limit) + u" as LimitDef,"
+           u" IllName,Fee,CanFreeFee,FreeFee,MzFee,HosFee,"_s
+         + quotedStr(texts.formula) + u" as ExpressionsName,"_s
+         + quotedStr(texts.printInfo) + u" as PrintInfo,"_s
+         + lifetimeSum(u"TotalFee"_s, prefix, u" TSumTotalFee,"_s)
+         + lifetimeSum(u"FreeFee"_s, prefix, u" as TSumFree "_s)
+         + u" from "_s + prefix + u"_CbZyJsb "
+           u" where "_s + recordCondition(key);
 }
 
 QString settlementFeeFilter(const QString &feeTypeCode)
@@ -97,9 +113,15 @@ QString settlementFeeFilter(const QString &feeTypeCode)
 QString settlementCall(int billType, const RecordKey &key)
 {
     const QString infix = billType == static_cast<int>(BillType::Archived) ? u"S"_s : QString();
-    return u" Pro_Zy_"_s + infix + u"FeeInterFace @OrgCode="_s + quotedStr(key.orgCode) + u",@CoopMedCode="_s
-        + quotedStr(key.coopMedCode) + u",@IDNo="_s + quotedStr(key.idNo) + u",@DiagNo="_s + quotedStr(key.diagNo)
-        + u",@Type='1',@Info=:Info OutPut "_s;
+    return u" Pro_Zy_"_s + infix + u"FeeInterFace"
+           u" @OrgCode="_s + quotedStr(key.orgCode)
+         + u",@CoopMedCode="_s + quotedStr(key.coopMedCode)
+         + u",@IDNo="_s + quotedStr(key.idNo)
+         + u",@DiagNo="_s + quotedStr(key.diagNo)
+         + u",@Type='1'"
+           u",@Info=:Info OutPut "_s;
 }
+
+// clang-format on
 
 } // namespace data
