@@ -11,6 +11,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <vector>
 
 namespace common {
 
@@ -42,11 +43,22 @@ QString written(const QString &value)
     return quoted || trimmed(value).size() != value.size() ? u'"' + value + u'"' : value;
 }
 
-/// Line end of the first line; Windows' own where there is none.
-QString lineEndOf(const QString &text)
+/// Those that may serve for a changed value, the content's own first.
+std::vector<IniEncoding> encodingsFor(const QByteArray &content)
 {
-    const qsizetype feed = text.indexOf(u'\n');
-    return feed < 0 || (feed > 0 && text[feed - 1] == u'\r') ? QStringLiteral("\r\n") : QStringLiteral("\n");
+    const IniEncoding own = iniEncodingOf(content);
+    switch (own) {
+    case IniEncoding::Utf8:
+        return {own, IniEncoding::Utf8WithMark};
+    case IniEncoding::Gb18030: // perhaps only for the line that goes now
+        return {own, IniEncoding::Utf8, IniEncoding::Utf8WithMark};
+    case IniEncoding::Utf8WithMark:
+    case IniEncoding::Utf16LittleEndian:
+    case IniEncoding::Utf16BigEndian:
+    case IniEncoding::Bytes:
+        break;
+    }
+    return {own};
 }
 
 } // namespace
@@ -58,22 +70,22 @@ QString iniFilePath(const QString &fileName)
 
 QString iniValue(const QByteArray &content, const QString &section, const QString &key)
 {
-    const IniText ini = decodeIni(content);
-    const std::vector<IniLine> lines = parseIni(ini.text);
+    const std::vector<IniLine> lines = parseIni(content, iniEncodingOf(content));
     const IniPlace place = findIni(lines, section, key);
-    return place.entry < 0 ? QString() : lines[static_cast<std::size_t>(place.entry)].value.toString();
+    return place.entry < 0 ? QString() : lines[static_cast<std::size_t>(place.entry)].value;
 }
 
 QByteArray withIniValue(const QByteArray &content, const QString &section, const QString &key, const QString &value)
 {
     checkName(section);
     checkName(key);
-    IniText ini = decodeIni(content);
-    putIniEntry(ini.text, section, key, trimmed(key).toString() + u'=' + written(value), lineEndOf(ini.text));
-    QByteArray changed = encodeIni(ini);
-    if (iniValue(changed, section, key) != value) // half a surrogate pair, for one
-        refuse(QStringLiteral("设置值“%1”无法写入设置文件。").arg(value));
-    return changed;
+    const QString entry = trimmed(key).toString() + u'=' + written(value);
+    for (const IniEncoding encoding : encodingsFor(content)) {
+        const QByteArray changed = withIniEntry(content, encoding, section, key, entry, QStringLiteral("\r\n"));
+        if (iniValue(changed, section, key) == value)
+            return changed;
+    }
+    refuse(QStringLiteral("设置值“%1”无法写入设置文件。").arg(value)); // half a surrogate pair, for one
 }
 
 QString readIniFile(const QString &path, const QString &section, const QString &key)

@@ -25,8 +25,9 @@ public:
 /// The text may be UTF-8, UTF-16 with a byte-order mark, or else GB18030; lines may end either way.
 [[nodiscard]] QString iniValue(const QByteArray &content, const QString &section, const QString &key);
 
-/// The content with the value put in, everything else untouched: in the place of the old value, else at the end of
-/// the section, else in a new section at the end. The encoding and the line ends stay what they are.
+/// The content with the value put in, every other line untouched to the byte, also one that is no text in any encoding:
+/// in the place of the old line, else at the end of the section, else in a new section at the end. The encoding and the
+/// line ends stay what they are; a mark is put before UTF-8 that would be taken for GB18030 without it.
 /// Throws IniError when the value could not be read back: for a name that is empty, begins with a comment mark or
 /// holds a bracket ("[", "]") or "="; for a line break anywhere; for a text that no encoding can hold.
 [[nodiscard]] QByteArray withIniValue(const QByteArray &content, const QString &section, const QString &key,

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The encoding of a setup file and its lines.
+// The lines of a setup file, as bytes and as text.
 #include "Common/initext.h"
 
 #include "Common/blanks.h"
 
+#include <QByteArrayView>
 #include <QStringDecoder>
 #include <QStringEncoder>
 
@@ -18,22 +19,67 @@ constexpr char LittleEndianMark[] = "\xFF\xFE";
 constexpr char BigEndianMark[] = "\xFE\xFF";
 constexpr char Gb18030Name[] = "GB18030";
 
-QString decode(QStringDecoder decoder, QByteArrayView bytes)
+QByteArrayView markOf(IniEncoding encoding)
 {
-    return decoder.decode(bytes);
+    switch (encoding) {
+    case IniEncoding::Utf8WithMark:
+        return Utf8Mark;
+    case IniEncoding::Utf16LittleEndian:
+        return LittleEndianMark;
+    case IniEncoding::Utf16BigEndian:
+        return BigEndianMark;
+    case IniEncoding::Utf8:
+    case IniEncoding::Gb18030:
+    case IniEncoding::Bytes:
+        break;
+    }
+    return {};
 }
 
-/// A Qt that does not know the encoding by name reads the system's own.
-QStringDecoder gb18030Decoder()
+bool isUtf16(IniEncoding encoding)
 {
-    QStringDecoder decoder(Gb18030Name);
-    return decoder.isValid() ? std::move(decoder) : QStringDecoder(QStringDecoder::System);
+    return encoding == IniEncoding::Utf16LittleEndian || encoding == IniEncoding::Utf16BigEndian;
 }
 
-QStringEncoder gb18030Encoder()
+/// A Qt that does not know GB18030 by name uses the system's own encoding.
+QString decode(QByteArrayView bytes, IniEncoding encoding)
 {
-    QStringEncoder encoder(Gb18030Name);
-    return encoder.isValid() ? std::move(encoder) : QStringEncoder(QStringEncoder::System);
+    switch (encoding) {
+    case IniEncoding::Utf16LittleEndian:
+        return QStringDecoder(QStringDecoder::Utf16LE).decode(bytes);
+    case IniEncoding::Utf16BigEndian:
+        return QStringDecoder(QStringDecoder::Utf16BE).decode(bytes);
+    case IniEncoding::Gb18030: {
+        QStringDecoder decoder(Gb18030Name);
+        return decoder.isValid() ? decoder.decode(bytes) : QString::fromLocal8Bit(bytes);
+    }
+    case IniEncoding::Bytes:
+        return QString::fromLatin1(bytes);
+    case IniEncoding::Utf8:
+    case IniEncoding::Utf8WithMark:
+        break;
+    }
+    return QString::fromUtf8(bytes);
+}
+
+QByteArray encode(const QString &text, IniEncoding encoding)
+{
+    switch (encoding) {
+    case IniEncoding::Utf16LittleEndian:
+        return QStringEncoder(QStringEncoder::Utf16LE).encode(text);
+    case IniEncoding::Utf16BigEndian:
+        return QStringEncoder(QStringEncoder::Utf16BE).encode(text);
+    case IniEncoding::Gb18030: {
+        QStringEncoder encoder(Gb18030Name);
+        return encoder.isValid() ? QByteArray(encoder.encode(text)) : text.toLocal8Bit();
+    }
+    case IniEncoding::Bytes:
+        return text.toLatin1();
+    case IniEncoding::Utf8:
+    case IniEncoding::Utf8WithMark:
+        break;
+    }
+    return text.toUtf8();
 }
 
 /// Whether a text that came out of valid UTF-8 was UTF-8 indeed.
@@ -45,6 +91,46 @@ bool looksLikeUtf8(QStringView text)
     return !above(0x80) || above(0x800);
 }
 
+/// The content in units of the encoding, of which neither line end is ever a part of another character.
+class Units {
+public:
+    Units(const QByteArray &content, IniEncoding encoding)
+        : m_content(content)
+        , m_size(isUtf16(encoding) ? 2 : 1)
+        , m_low(encoding == IniEncoding::Utf16BigEndian ? 1 : 0)
+        , m_begin(content.startsWith(markOf(encoding)) ? markOf(encoding).size() : 0)
+        , m_end(content.size() - (content.size() - m_begin) % m_size)
+    {
+    }
+
+    [[nodiscard]] qsizetype begin() const { return m_begin; }
+    /// Behind the last whole unit.
+    [[nodiscard]] qsizetype end() const { return m_end; }
+    [[nodiscard]] qsizetype lineEndFrom(qsizetype at) const
+    {
+        while (at < m_end && !is(at, '\n') && !is(at, '\r'))
+            at += m_size;
+        return at;
+    }
+    [[nodiscard]] qsizetype behindLineEnd(qsizetype at) const
+    {
+        const bool both = is(at, '\r') && is(at + m_size, '\n');
+        return std::min(at + (both ? 2 : 1) * m_size, m_end);
+    }
+
+private:
+    [[nodiscard]] bool is(qsizetype at, char character) const
+    {
+        return at < m_end && m_content[at + m_low] == character && (m_size == 1 || m_content[at + 1 - m_low] == '\0');
+    }
+
+    const QByteArray &m_content;
+    qsizetype m_size;
+    qsizetype m_low; // where the lower byte stands in a unit of two
+    qsizetype m_begin;
+    qsizetype m_end;
+};
+
 QStringView withoutQuotes(QStringView value)
 {
     if (value.size() < 2 || value.front() != value.back())
@@ -52,21 +138,22 @@ QStringView withoutQuotes(QStringView value)
     return value.front() == u'"' || value.front() == u'\'' ? value.sliced(1, value.size() - 2) : value;
 }
 
-IniLine takeApart(QStringView line)
+void takeApart(QStringView whole, IniLine &line)
 {
-    const QStringView text = trimmed(line);
-    if (text.isEmpty() || text.front() == u';' || text.front() == u'#')
-        return {IniLine::Other, line, {}, {}};
-    if (text.front() == u'[') {
-        const qsizetype end = text.indexOf(u']');
-        if (end < 0)
-            return {IniLine::Other, line, {}, {}};
-        return {IniLine::Section, line, trimmed(text.sliced(1, end - 1)), {}};
-    }
-    const qsizetype equals = text.indexOf(u'=');
-    if (equals < 0)
-        return {IniLine::Other, line, {}, {}};
-    return {IniLine::Entry, line, trimmed(text.first(equals)), withoutQuotes(trimmed(text.sliced(equals + 1)))};
+    const QStringView text = trimmed(whole);
+    if (text.isEmpty())
+        return;
+    line.kind = IniLine::Other;
+    if (text.front() == u';' || text.front() == u'#')
+        return;
+    const bool isSection = text.front() == u'[';
+    const qsizetype mark = text.indexOf(isSection ? u']' : u'=');
+    if (mark < 0)
+        return;
+    line.kind = isSection ? IniLine::Section : IniLine::Entry;
+    line.name = trimmed(isSection ? text.sliced(1, mark - 1) : text.first(mark)).toString();
+    if (!isSection)
+        line.value = withoutQuotes(trimmed(text.sliced(mark + 1))).toString();
 }
 
 bool same(QStringView left, QStringView right)
@@ -74,63 +161,54 @@ bool same(QStringView left, QStringView right)
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-/// Behind the last line of a section that is not blank.
-qsizetype endOfSection(const std::vector<IniLine> &lines, qsizetype section, QStringView text)
+/// The last line of a section that is not blank.
+const IniLine &lastOfSection(const std::vector<IniLine> &lines, qsizetype section)
 {
     auto last = lines.begin() + section;
     for (auto line = last + 1; line != lines.end() && line->kind != IniLine::Section; ++line) {
-        if (!trimmed(line->line).isEmpty())
+        if (line->kind != IniLine::Blank)
             last = line;
     }
-    return last->line.end() - text.begin();
+    return *last;
+}
+
+/// The first line end that has a line feed, else the first; empty where there is none.
+QByteArray lineEndOf(const QByteArray &content, const std::vector<IniLine> &lines)
+{
+    QByteArray first;
+    for (const IniLine &line : lines) {
+        const QByteArray end = content.sliced(line.end, line.next - line.end);
+        if (end.contains('\n'))
+            return end;
+        if (first.isEmpty())
+            first = end;
+    }
+    return first;
 }
 
 } // namespace
 
-IniText decodeIni(const QByteArray &content)
+IniEncoding iniEncodingOf(const QByteArray &content)
 {
-    if (content.startsWith(Utf8Mark))
-        return {IniEncoding::Utf8WithMark, QString::fromUtf8(content.sliced(3))};
-    if (content.startsWith(LittleEndianMark))
-        return {IniEncoding::Utf16LittleEndian,
-                decode(QStringDecoder(QStringDecoder::Utf16LE), QByteArrayView(content).sliced(2))};
-    if (content.startsWith(BigEndianMark))
-        return {IniEncoding::Utf16BigEndian,
-                decode(QStringDecoder(QStringDecoder::Utf16BE), QByteArrayView(content).sliced(2))};
-
+    for (const IniEncoding marked :
+         {IniEncoding::Utf8WithMark, IniEncoding::Utf16LittleEndian, IniEncoding::Utf16BigEndian}) {
+        if (content.startsWith(markOf(marked)))
+            return marked;
+    }
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = utf8.decode(content);
-    if (!utf8.hasError() && looksLikeUtf8(text))
-        return {IniEncoding::Utf8, text};
-    return {IniEncoding::Gb18030, decode(gb18030Decoder(), content)};
+    return !utf8.hasError() && looksLikeUtf8(text) ? IniEncoding::Utf8 : IniEncoding::Gb18030;
 }
 
-QByteArray encodeIni(const IniText &ini)
+std::vector<IniLine> parseIni(const QByteArray &content, IniEncoding encoding)
 {
-    switch (ini.encoding) {
-    case IniEncoding::Utf8WithMark:
-        return Utf8Mark + ini.text.toUtf8();
-    case IniEncoding::Utf16LittleEndian:
-        return LittleEndianMark + QByteArray(QStringEncoder(QStringEncoder::Utf16LE).encode(ini.text));
-    case IniEncoding::Utf16BigEndian:
-        return BigEndianMark + QByteArray(QStringEncoder(QStringEncoder::Utf16BE).encode(ini.text));
-    case IniEncoding::Gb18030:
-        return gb18030Encoder().encode(ini.text);
-    case IniEncoding::Utf8:
-        break;
-    }
-    return (looksLikeUtf8(ini.text) ? QByteArray() : QByteArray(Utf8Mark)) + ini.text.toUtf8();
-}
-
-std::vector<IniLine> parseIni(QStringView text)
-{
+    const Units units(content, encoding);
     std::vector<IniLine> lines;
-    while (!text.isEmpty()) {
-        const qsizetype found =
-            std::ranges::find_if(text, [](QChar c) { return c == u'\n' || c == u'\r'; }) - text.begin();
-        lines.push_back(takeApart(text.first(found)));
-        const bool both = text.sliced(found).startsWith(u"\r\n");
-        text = text.sliced(std::min(found + (both ? 2 : 1), text.size()));
+    for (qsizetype at = units.begin(); at < units.end(); at = lines.back().next) {
+        IniLine line{.begin = at, .end = units.lineEndFrom(at)};
+        line.next = units.behindLineEnd(line.end);
+        takeApart(decode(QByteArrayView(content).sliced(at, line.end - at), encoding), line);
+        lines.push_back(std::move(line));
     }
     return lines;
 }
@@ -153,22 +231,26 @@ IniPlace findIni(const std::vector<IniLine> &lines, QStringView section, QString
     return place;
 }
 
-void putIniEntry(QString &text, const QString &section, const QString &key, const QString &entry,
-                 const QString &lineEnd)
+QByteArray withIniEntry(QByteArray content, IniEncoding encoding, const QString &section, const QString &key,
+                        const QString &entry, const QString &lineEnd)
 {
-    const QStringView view(text);
-    const std::vector<IniLine> lines = parseIni(view);
+    if (!content.startsWith(markOf(encoding)))
+        content.prepend(markOf(encoding));
+    const std::vector<IniLine> lines = parseIni(content, encoding);
     const IniPlace place = findIni(lines, section, key);
+    const QByteArray line = encode(entry, encoding);
     if (place.entry >= 0) {
-        const QStringView old = lines[static_cast<std::size_t>(place.entry)].line;
-        text.replace(old.begin() - view.begin(), old.size(), entry);
-    } else if (place.section >= 0) {
-        text.insert(endOfSection(lines, place.section, view), lineEnd + entry);
-    } else {
-        if (!text.isEmpty() && !text.endsWith(u'\n') && !text.endsWith(u'\r'))
-            text += lineEnd;
-        text += u'[' + trimmed(section).toString() + u']' + lineEnd + entry + lineEnd;
+        const IniLine &old = lines[static_cast<std::size_t>(place.entry)];
+        return content.replace(old.begin, old.end - old.begin, line);
     }
+    QByteArray end = lineEndOf(content, lines);
+    if (end.isEmpty())
+        end = encode(lineEnd, encoding);
+    if (place.section >= 0)
+        return content.insert(lastOfSection(lines, place.section).end, end + line);
+    const bool isOpen = !lines.empty() && lines.back().end == lines.back().next;
+    const QByteArray head = encode(u'[' + trimmed(section).toString() + u']', encoding) + end;
+    return content.insert(Units(content, encoding).end(), (isOpen ? end : QByteArray()) + head + line + end);
 }
 
 } // namespace common

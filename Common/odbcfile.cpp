@@ -100,19 +100,19 @@ std::optional<QByteArray> withEntries(const QByteArray &content, const std::vect
     if (!copy.fill(content) || !std::ranges::all_of(entries, written))
         return std::nullopt;
 
-    const QString made = QString::fromLatin1(copy.content());
-    const std::vector<IniLine> lines = parseIni(made);
-    QString text = QString::fromLatin1(content);
-    const QString lineEnd = text.contains(u"\r\n") ? QStringLiteral("\r\n") : QStringLiteral("\n");
+    const QByteArray made = copy.content();
+    const std::vector<IniLine> lines = parseIni(made, IniEncoding::Bytes);
+    QByteArray changed = content;
     for (const OdbcEntry &entry : entries) {
         const QString section = asBytes(entry.section);
         const QString key = asBytes(entry.key);
         const IniPlace place = findIni(lines, section, key);
         if (place.entry < 0)
             return std::nullopt;
-        putIniEntry(text, section, key, lines[static_cast<std::size_t>(place.entry)].line.toString(), lineEnd);
+        const IniLine &line = lines[static_cast<std::size_t>(place.entry)];
+        const QString text = QString::fromLatin1(QByteArrayView(made).sliced(line.begin, line.end - line.begin));
+        changed = withIniEntry(changed, IniEncoding::Bytes, section, key, text, QStringLiteral("\n"));
     }
-    QByteArray changed = text.toLatin1();
     if (!copy.fill(changed) || !std::ranges::all_of(entries, held))
         return std::nullopt;
     return changed;

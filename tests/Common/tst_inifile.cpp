@@ -79,6 +79,10 @@ const Reading Readings[] = {
      "1\n"sv,
      "　1"},
     {"ZeroBytes", "[system]\nconnStyle=1\0\0\n\0"sv, "1"},
+    {"HalfACharacterBeforeTheLineEnd", "[system]\nhospital=\xD2\nconnStyle=1\n"sv, "1"},
+    {"BrokenByteBehindAMark", "\xEF\xBB\xBF[system]\nhospital=\xFF\nconnStyle=\xE5\x8C\xBB\n"sv, "医"},
+    {"Utf16OfOddLength", "\xFF\xFE[\0s\0y\0s\0t\0e\0m\0]\0\n\0c\0o\0n\0n\0S\0t\0y\0l\0e\0=\0001\0\n\0x"sv, "1"},
+    {"Utf16BigEndian", "\xFE\xFF\0[\0s\0y\0s\0t\0e\0m\0]\0\r\0c\0o\0n\0n\0S\0t\0y\0l\0e\0=\0001"sv, "1"},
     {"EndMarkOfOldSystems", "[system]\r\nconnStyle=1\r\n\x1A"sv, "1"},
 };
 
@@ -118,6 +122,19 @@ const Writing Writings[] = {
     {"Utf8Mark", "\xEF\xBB\xBF[system]\nconnStyle=2\n"sv, "1", "\xEF\xBB\xBF[system]\nconnStyle=1\n"sv},
     {"Gbk", ";\xD2\xBD\r\n[system]\r\n"sv, "医院", ";\xD2\xBD\r\n[system]\r\nconnStyle=\xD2\xBD\xD4\xBA\r\n"sv},
     {"TwoByteUtf8GetsAMark", "[system]\n"sv, "°", "\xEF\xBB\xBF[system]\nconnStyle=\xC2\xB0\n"sv},
+    {"ByteOutsideEveryEncoding", "[system]\nx=\x80\nconnStyle=2\n"sv, "1", "[system]\nx=\x80\nconnStyle=1\n"sv},
+    {"LastByteOfAll", "[system]\r\nx=\xFF\r\nconnStyle=2"sv, "医院",
+     "[system]\r\nx=\xFF\r\nconnStyle=\xD2\xBD\xD4\xBA"sv},
+    {"HalfACharacter", "[system]\r\nx=\xD2\r\n"sv, "1", "[system]\r\nx=\xD2\r\nconnStyle=1\r\n"sv},
+    {"HalfACharacterAtTheEnd", "[system]\nx=\xD2"sv, "1", "[system]\nx=\xD2\nconnStyle=1"sv},
+    {"BrokenByteBehindAMark", "\xEF\xBB\xBF[system]\nx=\xE5\x8C\n\xC0\x80\n"sv, "医",
+     "\xEF\xBB\xBF[system]\nx=\xE5\x8C\n\xC0\x80\nconnStyle=\xE5\x8C\xBB\n"sv},
+    {"OnlyTheOldValueWasBroken", "[system]\nx=\xE5\x8C\xBB\nconnStyle=\xFF\n"sv, "院",
+     "[system]\nx=\xE5\x8C\xBB\nconnStyle=\xE9\x99\xA2\n"sv},
+    {"LineEndsOfOldSystems", "[b]\rx=1\r"sv, "1", "[b]\rx=1\r[system]\rconnStyle=1\r"sv},
+    {"LineEndsOfAllSystems", "[b]\rx=1\r\r\ny=2\n\n"sv, "1", "[b]\rx=1\r\r\ny=2\n\n[system]\r\nconnStyle=1\r\n"sv},
+    {"Utf16OfOddLength", "\xFF\xFE[\0b\0]\0\xAA"sv, "",
+     "\xFF\xFE[\0b\0]\0\r\0\n\0[\0s\0y\0s\0t\0e\0m\0]\0\r\0\n\0c\0o\0n\0n\0S\0t\0y\0l\0e\0=\0\r\0\n\0\xAA"sv},
     {"BracketInTheValue", "[system]\nconnStyle=2\n"sv, "[b]=;", "[system]\nconnStyle=[b]=;\n"sv},
 };
 
@@ -129,6 +146,14 @@ TEST(IniFile, keepsUtf16)
     const QByteArray before = bytes("\xFF\xFE[\0b\0]\0\n\0"sv);
     const QByteArray after = common::withIniValue(before, u"b"_s, u"k"_s, u"v"_s);
     EXPECT_EQ(after, bytes("\xFF\xFE[\0b\0]\0\n\0k\0=\0v\0\n\0"sv));
+}
+
+TEST(IniFile, keepsHalvesOfSurrogatePairs)
+{
+    const QByteArray before = bytes("\xFE\xFF\xD8\0\0\n\0[\0b\0]\0\r\0k\0=\xDC\0\0\r"sv);
+    const QByteArray after = common::withIniValue(before, u"b"_s, u"n"_s, u"𠮷"_s);
+    EXPECT_EQ(after, before.chopped(2) + bytes("\0\n\0n\0=\xD8\x42\xDF\xB7\0\r"sv));
+    EXPECT_THROW((void)common::withIniValue({}, u"b"_s, u"n"_s, QString(QChar(0xD800))), common::IniError);
 }
 
 TEST(IniFile, refusesNamesThatCouldNotBeReadBack)
