@@ -7,9 +7,8 @@
 #include <QStringView>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -20,9 +19,12 @@ namespace {
 /// Beyond so many places before the point a number is shown in general form.
 constexpr int MostWholePlaces = 18;
 constexpr int GeneralDigits = 15;
+/// The general form is scientific below 0.00001.
+constexpr int LeastPlainExponent = -4;
+constexpr int MostExponentZeros = 4;
 
 struct Token {
-    enum Kind { Literal, WholePlace, FractionPlace, Point } kind;
+    enum Kind { Literal, WholePlace, FractionPlace, Point, Exponent } kind;
     QChar character;
 };
 
@@ -34,6 +36,9 @@ struct Section {
     int leastWhole = 0; ///< digits shown at least before the point
     int fractionPlaces = 0;
     int leastFraction = 0; ///< and behind it
+    bool scientific = false; ///< the exponent stands where its token is
+    bool plusSign = false; ///< a positive exponent has a sign, too
+    int leastExponent = 0; ///< digits of the exponent at least
 
     void addPlace(QChar character, bool behindPoint)
     {
@@ -51,6 +56,22 @@ struct Section {
     }
 };
 
+/// Reads "E+", "E-", "e+" or "e-" and the zeros behind it; returns how many characters it took, 0 when there is none.
+qsizetype takeExponent(QStringView text, Section &section)
+{
+    if (text.size() < 2 || text[0].toLower() != u'e' || (text[1] != u'+' && text[1] != u'-'))
+        return 0;
+    qsizetype zeros = 0;
+    while (zeros < MostExponentZeros && 2 + zeros < text.size() && text[2 + zeros] == u'0')
+        ++zeros;
+    if (!std::exchange(section.scientific, true)) {
+        section.plusSign = text[1] == u'+';
+        section.leastExponent = static_cast<int>(zeros);
+        section.tokens.push_back({Token::Exponent, text[0]});
+    }
+    return 2 + zeros;
+}
+
 Section takeApart(QStringView text)
 {
     Section section;
@@ -67,6 +88,8 @@ Section takeApart(QStringView text)
         } else if (character == u'\'' || character == u'"') {
             while (++at < text.size() && text[at] != character)
                 section.tokens.push_back({Token::Literal, text[at]});
+        } else if (const qsizetype taken = takeExponent(text.sliced(at), section); taken > 0) {
+            at += taken - 1;
         } else {
             section.tokens.push_back({Token::Literal, character});
         }
@@ -115,7 +138,14 @@ int shownFraction(const Section &section, const DecimalDigits &digits)
     return shown;
 }
 
-QString fill(const Section &section, const DecimalDigits &digits)
+QString exponentText(const Section &section, QChar mark, int exponent)
+{
+    const QString sign = exponent < 0 ? QStringLiteral("-") : section.plusSign ? QStringLiteral("+") : QString();
+    return mark + sign + QString::number(std::abs(exponent)).rightJustified(section.leastExponent, u'0');
+}
+
+/// `exponent` is shown where the section has one.
+QString fill(const Section &section, const DecimalDigits &digits, int exponent = 0)
 {
     const int wholeDigits = std::max(digits.isZero() ? 0 : digits.exponent, section.leastWhole);
     const int fraction = shownFraction(section, digits);
@@ -144,18 +174,39 @@ QString fill(const Section &section, const DecimalDigits &digits)
             if (++fractionPlace <= fraction)
                 text += QLatin1Char(digits.at(fractionPlace));
             break;
+        case Token::Exponent:
+            text += exponentText(section, token.character, exponent);
+            break;
         }
     }
     return text;
 }
 
+/// As many significant digits as the section has places; the exponent makes up for where the point stands.
+QString fillScientific(const Section &section, DecimalDigits digits)
+{
+    digits.roundTo(section.wholePlaces + section.fractionPlaces - digits.exponent);
+    const int exponent = digits.exponent - section.wholePlaces;
+    digits.exponent = section.wholePlaces;
+    return fill(section, digits, exponent);
+}
+
+/// 15 significant digits without trailing zeros.
 QString generalForm(long double value)
 {
-    std::array<char, 64> buffer;
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value + 0.0L,
-                                      std::chars_format::general, GeneralDigits);
-    QString text = QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
-    return text.replace(QStringLiteral("e+"), QStringLiteral("E")).replace(u'e', u'E');
+    if (std::isnan(value))
+        return QStringLiteral("nan");
+    const QString sign = value < 0 ? QStringLiteral("-") : QString();
+    if (std::isinf(value))
+        return sign + QStringLiteral("inf");
+    static const Section plain = takeApart(QStringLiteral("0.") + QString(GeneralDigits - LeastPlainExponent, u'#'));
+    static const Section scientific = takeApart(QStringLiteral("0.##############E-"));
+    DecimalDigits digits = decimalDigits(std::fabs(value));
+    if (digits.isZero())
+        return QStringLiteral("0");
+    digits.roundTo(GeneralDigits - digits.exponent);
+    const bool isPlain = digits.exponent >= LeastPlainExponent && digits.exponent <= GeneralDigits;
+    return sign + (isPlain ? fill(plain, digits) : fillScientific(scientific, digits));
 }
 
 } // namespace
@@ -170,14 +221,16 @@ QString formatFloat(const QString &format, long double value)
         return generalForm(value);
 
     const std::size_t bySign = value < 0 && hasSection(1) ? 1 : 0;
-    Section section = takeApart(sections[bySign]);
+    const Section section = takeApart(sections[bySign]);
     DecimalDigits digits = decimalDigits(std::fabs(value));
-    if (digits.exponent > MostWholePlaces)
-        return generalForm(value);
-    digits.roundTo(section.fractionPlaces);
+    if (!section.scientific) {
+        if (digits.exponent > MostWholePlaces)
+            return generalForm(value);
+        digits.roundTo(section.fractionPlaces);
+    }
     if (digits.isZero()) // what rounds to nothing is zero, without a sign
         return fill(takeApart(sections[hasSection(2) ? 2 : 0]), {});
-    const QString text = fill(section, digits);
+    const QString text = section.scientific ? fillScientific(section, digits) : fill(section, digits);
     return value < 0 && bySign == 0 ? u'-' + text : text;
 }
 

@@ -20,8 +20,11 @@ namespace toolkit {
 [[nodiscard]] int parseInteger(const QString &text);
 
 /// The number as a display format shows it: the Pascal runtime's FormatFloat. Digit places "0" and "#", a "," for
-/// thousands, up to three sections by ";" (positive, negative, zero), literal text in quotes or as it stands;
-/// halves round away from zero on the decimal digits. An empty format shows the number's shortest decimal text.
+/// thousands, "E+", "E-", "e+" or "e-" and up to four zeros for a power of ten (the places before the point hold as
+/// many digits as there are places; "+" shows the sign of a positive power, the zeros are its least digits), up to
+/// three sections by ";" (positive, negative, zero), literal text in quotes or as it stands; halves round away from
+/// zero on the decimal digits. An empty format shows 15 significant digits, as a power of ten below 0.00001 and from
+/// 1E15 on.
 [[nodiscard]] QString formatFloat(const QString &format, long double value);
 
 /// Two decimals, halves to the even neighbour.

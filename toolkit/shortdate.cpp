@@ -27,7 +27,7 @@ QDate parseShortDate(const QString &text)
     if (const auto date = parseDate(text))
         return *date;
     const QDate date = QDate::fromString(text, shortDateFormat());
-    if (!date.isValid())
+    if (!date.isValid() || date.year() < 1) // "-2026-11-20" is read as a year before our era
         throw std::invalid_argument(QStringLiteral("“%1”不是有效的日期。").arg(text).toStdString());
     return date;
 }

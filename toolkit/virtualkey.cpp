@@ -12,7 +12,7 @@ namespace toolkit {
 namespace {
 
 // Source: the virtual-key code table of the Windows user-interface documentation.
-constexpr std::array<std::pair<int, int>, 48> SpecialKeys = {{
+constexpr std::array<std::pair<int, int>, 58> SpecialKeys = {{
     {Qt::Key_Backspace, virtualkey::Back},
     {Qt::Key_Tab, 9},
     {Qt::Key_Backtab, 9},
@@ -36,7 +36,16 @@ constexpr std::array<std::pair<int, int>, 48> SpecialKeys = {{
     {Qt::Key_Down, 40},
     {Qt::Key_Insert, 45},
     {Qt::Key_Delete, virtualkey::Delete},
-    {Qt::Key_Asterisk, 106},
+    {Qt::Key_Exclam, '1'}, // here and below: what Shift makes of a key in the layout that Chinese keyboards have
+    {Qt::Key_At, '2'},
+    {Qt::Key_NumberSign, '3'},
+    {Qt::Key_Dollar, '4'},
+    {Qt::Key_Percent, '5'},
+    {Qt::Key_AsciiCircum, '6'},
+    {Qt::Key_Ampersand, '7'},
+    {Qt::Key_Asterisk, '8'},
+    {Qt::Key_ParenLeft, '9'},
+    {Qt::Key_ParenRight, '0'},
     {Qt::Key_Plus, 187},
     {Qt::Key_Semicolon, 186},
     {Qt::Key_Colon, 186},
@@ -63,20 +72,43 @@ constexpr std::array<std::pair<int, int>, 48> SpecialKeys = {{
     {Qt::Key_ScrollLock, 145},
 }};
 
+/// The keys of the number pad that have codes of their own, beside its digits. With Num Lock off they are arrows and
+/// the like, and have the codes of those.
+constexpr std::array<std::pair<int, int>, 7> PadKeys = {{
+    {Qt::Key_Clear, 12}, // the 5
+    {Qt::Key_Asterisk, 106},
+    {Qt::Key_Plus, 107},
+    {Qt::Key_Minus, 109},
+    {Qt::Key_Period, 110},
+    {Qt::Key_Comma, 110}, // where the point is a comma
+    {Qt::Key_Slash, 111},
+}};
+
+constexpr int FirstPadDigit = 96;
 constexpr int FirstFunctionKey = 112;
+
+template <std::size_t Count> int codeIn(const std::array<std::pair<int, int>, Count> &keys, int key)
+{
+    const auto *found = std::find_if(keys.begin(), keys.end(), [key](const auto &entry) { return entry.first == key; });
+    return found != keys.end() ? found->second : -1;
+}
 
 } // namespace
 
 int virtualKey(const QKeyEvent &event)
 {
     const int key = event.key();
-    if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9))
+    const bool isDigit = key >= Qt::Key_0 && key <= Qt::Key_9;
+    if (event.modifiers().testFlag(Qt::KeypadModifier)) {
+        const int code = isDigit ? key - Qt::Key_0 + FirstPadDigit : codeIn(PadKeys, key);
+        if (code >= 0)
+            return code;
+    }
+    if (isDigit || (key >= Qt::Key_A && key <= Qt::Key_Z))
         return key; // Qt's codes of letters and digits are the characters, as the virtual-key codes are
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24)
         return key - Qt::Key_F1 + FirstFunctionKey;
-    const auto *found =
-        std::find_if(SpecialKeys.begin(), SpecialKeys.end(), [key](const auto &entry) { return entry.first == key; });
-    return found != SpecialKeys.end() ? found->second : -1;
+    return codeIn(SpecialKeys, key);
 }
 
 } // namespace toolkit

@@ -16,7 +16,8 @@ inline constexpr int Escape = 27;
 inline constexpr int Delete = 46;
 } // namespace virtualkey
 
-/// Letters give their upper-case code, digits (on the number pad too) their own; -1 for a key without a code.
+/// Letters give their upper-case code, digits their own, whether Shift is held or not. The number pad's digits and
+/// signs have codes of their own. -1 for a key without a code.
 [[nodiscard]] int virtualKey(const QKeyEvent &event);
 
 } // namespace toolkit

@@ -52,7 +52,7 @@ protected:
     [[nodiscard]] QLineEdit &name() { return hands::find<QLineEdit>(m_desk->form(), "edtOrgName"); }
 
     /// Presses a key in the field and then, in the list that drops down, types and presses another one.
-    void choose(Qt::Key key, const char *typed, Qt::Key end)
+    void choose(Qt::Key key, const char *typed, Qt::Key end, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         const ModalVisit visit(QStringLiteral("codeSearchDialog"), [&](QWidget &list) {
             auto &filter = hands::find<QLineEdit>(list, "codeSearchFilter");
@@ -60,7 +60,7 @@ protected:
             filter.insert(QString::fromUtf8(typed)); // names come from an input method, not from keys
             QTest::keyClick(&filter, end);
         });
-        QTest::keyClick(&code(), key);
+        QTest::keyClick(&code(), key, modifiers);
     }
 
     std::optional<Desk> m_desk;
@@ -85,7 +85,16 @@ const KeyRow Keys[] = {
     {"CapitalLetter", Qt::Key_B, Qt::ShiftModifier, "", 'B'},
     {"LetterInAFilledField", Qt::Key_A, Qt::NoModifier, "42990101", 'A'},
     {"Digit", Qt::Key_7, Qt::NoModifier, "", '7'},
-    {"DigitOfTheNumberPad", Qt::Key_4, Qt::KeypadModifier, "", '4'},
+    {"DigitWithShift", Qt::Key_AsciiCircum, Qt::ShiftModifier, "", '6'},
+    {"EightWithShift", Qt::Key_Asterisk, Qt::ShiftModifier, "", '8'},
+    {"ZeroOfTheNumberPad", Qt::Key_0, Qt::KeypadModifier, "", 96},
+    {"DigitOfTheNumberPad", Qt::Key_4, Qt::KeypadModifier, "", 100},
+    {"StarOfTheNumberPad", Qt::Key_Asterisk, Qt::KeypadModifier, "", 106},
+    {"PlusOfTheNumberPad", Qt::Key_Plus, Qt::KeypadModifier, "", 107},
+    {"MinusOfTheNumberPad", Qt::Key_Minus, Qt::KeypadModifier, "", 109},
+    {"PointOfTheNumberPad", Qt::Key_Period, Qt::KeypadModifier, "", 110},
+    {"SlashOfTheNumberPad", Qt::Key_Slash, Qt::KeypadModifier, "", 111},
+    {"ArrowOfTheNumberPad", Qt::Key_Left, Qt::KeypadModifier, "", 37},
     {"Blank", Qt::Key_Space, Qt::NoModifier, "", ' '},
     {"Delete", Qt::Key_Delete, Qt::NoModifier, "42990101", 0},
     {"Backspace", Qt::Key_Backspace, Qt::NoModifier, "42990101", 0},
@@ -146,6 +155,15 @@ TEST_F(InstitutionSearchTest, theChosenInstitutionFillsBothFields)
     EXPECT_EQ(code().text(), QStringLiteral("42990102"));
     EXPECT_EQ(name().text(), QStringLiteral("乙镇卫生院"));
     EXPECT_EQ(m_desk->form().focusWidget(), &code());
+}
+
+TEST_F(InstitutionSearchTest, aDigitOfTheNumberPadIsTheFirstCharacterSearchedFor)
+{
+    open();
+    choose(Qt::Key_0, "2", Qt::Key_Return, Qt::KeypadModifier);
+    EXPECT_EQ(m_initialFilter, QStringLiteral("0"));
+    EXPECT_EQ(m_desk->conversation().take(), lookup(u'`')) << "code 96";
+    EXPECT_EQ(code().text(), QStringLiteral("42990102"));
 }
 
 TEST_F(InstitutionSearchTest, aSearchByNameBeginsUnfiltered)
