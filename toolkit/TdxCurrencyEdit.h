@@ -6,7 +6,8 @@
 
 #include <optional>
 
-/// Read-only: the amount is set by code, the text follows it. Without an amount the box is empty, as it is at first.
+/// Read-only: the amount is set by code, the text follows it. Without an amount the box is empty, as it is at first. An
+/// amount that is wider than the box is painted as #### and told by a hint; text() is the amount all the same.
 class TdxCurrencyEdit : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(QString value READ valueText WRITE setValue)
@@ -28,7 +29,14 @@ public:
     /// See toolkit/displayformat.h.
     void setDisplayFormat(const QString &format);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+
 private:
+    /// Where the text stands.
+    [[nodiscard]] QRect textPlace() const;
+    [[nodiscard]] bool isTooWide() const;
     [[nodiscard]] QString valueText() const;
     void showValue();
 

@@ -234,4 +234,9 @@ QString formatFloat(const QString &format, long double value)
     return value < 0 && bySign == 0 ? u'-' + text : text;
 }
 
+bool showsThousands(const QString &format)
+{
+    return takeApart(sectionsOf(format).front()).thousands;
+}
+
 } // namespace toolkit

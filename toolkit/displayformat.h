@@ -27,6 +27,9 @@ namespace toolkit {
 /// 1E15 on.
 [[nodiscard]] QString formatFloat(const QString &format, long double value);
 
+/// Whether the format shows thousands apart.
+[[nodiscard]] bool showsThousands(const QString &format);
+
 /// Two decimals, halves to the even neighbour.
 [[nodiscard]] double roundToCents(double value);
 

@@ -14,6 +14,7 @@
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
+#include "toolkit/readabletext.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
 #include "uAddBill/columns.h"
@@ -40,6 +41,7 @@ TfrmAddBill::TfrmAddBill(data::BillKey bill, QWidget *parent)
     m_ui->dxTLUp->setCustomDrawCell(toolkit::billListDrawing());
     m_ui->dxTLUp->columnByName(QStringLiteral("dxTLUpID"))->setCustomDrawCell(toolkit::rowNumberDrawing());
     m_checkColumn = toolkit::columnPosition(*m_ui->dxTLUp, "Check");
+    toolkit::keepReadable(*m_ui->edtUpNum);
 
     using toolkit::connectGuarded;
     connectGuarded(m_ui->dxTLUp, &TdxTreeList::toggleClick, this,

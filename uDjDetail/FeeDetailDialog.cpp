@@ -10,7 +10,26 @@
 #include "toolkit/rowdrawing.h"
 #include "uDjDetail/columns.h"
 
+#include <QHeaderView>
+#include <QLayout>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QSplitter>
+
+#include <algorithm>
+
+namespace {
+
+/// Of one side of the splitter, so that no column of its grid has to be scrolled to.
+int neededWidth(const TdxTreeList &grid)
+{
+    const QWidget &side = *grid.parentWidget();
+    const QMargins beside = side.contentsMargins() + side.layout()->contentsMargins();
+    return beside.left() + beside.right() + 2 * grid.frameWidth() + grid.header()->length()
+        + grid.verticalScrollBar()->sizeHint().width();
+}
+
+} // namespace
 
 FeeDetailDialog::FeeDetailDialog(QWidget *parent)
     : QDialog(parent)
@@ -21,8 +40,10 @@ FeeDetailDialog::FeeDetailDialog(QWidget *parent)
     CDSFeeInfo->setObjectName(QStringLiteral("CDSFeeInfo"));
 }
 
-void FeeDetailDialog::takeGrids(TdxTreeList &feeTypes, TdxTreeList &feeItems)
+void FeeDetailDialog::takeGrids(QSplitter &splitter, TdxTreeList &feeTypes, TdxTreeList &feeItems)
 {
+    m_splitter = &splitter;
+    m_splitter->setStretchFactor(1, 1);
     m_feeTypes = &feeTypes;
     m_feeItems = &feeItems;
     m_feeTypes->setColumns(feeTypeColumns());
@@ -52,7 +73,17 @@ void FeeDetailDialog::ShowModal()
     FormShow();
     if (parentWidget() != nullptr)
         resize(parentWidget()->window()->size() * 9 / 10);
+    divideRoom();
     exec();
+}
+
+void FeeDetailDialog::divideRoom()
+{
+    layout()->activate(); // it has its size, and nothing in it has
+    const int room = m_splitter->width() - m_splitter->handleWidth();
+    const int items = neededWidth(*m_feeItems);
+    const int types = std::min(neededWidth(*m_feeTypes), std::max(room / 3, room - items));
+    m_splitter->setSizes({types, room - types});
 }
 
 void FeeDetailDialog::FormShow()

@@ -10,6 +10,7 @@
 #include <memory>
 
 class QRadioButton;
+class QSplitter;
 class TClientDataSet;
 class TdxTreeList;
 
@@ -26,8 +27,8 @@ public:
     void ShowModal();
 
 protected:
-    /// Borrowed from the derived dialog's form; call once, after its set-up.
-    void takeGrids(TdxTreeList &feeTypes, TdxTreeList &feeItems);
+    /// Borrowed from the derived dialog's form, the splitter with a grid on each side; call once, after its set-up.
+    void takeGrids(QSplitter &splitter, TdxTreeList &feeTypes, TdxTreeList &feeItems);
     /// Refills the items whenever this choice is taken.
     void takeChoice(QRadioButton &choice);
     /// The choice that shows the items of the focused fee type.
@@ -45,9 +46,12 @@ protected:
 
 private:
     void FormShow();
+    /// The types get what they need, but no more than a third while the items need what is left.
+    void divideRoom();
     void fillFeeTypes();
     void fillFeeItems();
 
+    QSplitter *m_splitter = nullptr;
     TdxTreeList *m_feeTypes = nullptr;
     TdxTreeList *m_feeItems = nullptr;
     QRadioButton *m_localChoice = nullptr;

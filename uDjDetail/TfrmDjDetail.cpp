@@ -38,8 +38,7 @@ TfrmDjDetail::TfrmDjDetail(data::RecordKey record, QWidget *parent)
     setObjectName(QStringLiteral("frmDjDetail"));
     m_ui->dxTLFeeInfo->setColumns(feeItemColumns());
     m_ui->dxTLFeeInfo->setCustomDrawCell(itemDrawing(toolkit::columnPosition(*m_ui->dxTLFeeInfo, "IsTp")));
-    m_ui->splitter->setStretchFactor(1, 1);
-    takeGrids(*m_ui->dxTLFeeType, *m_ui->dxTLFeeInfo);
+    takeGrids(*m_ui->splitter, *m_ui->dxTLFeeType, *m_ui->dxTLFeeInfo);
     takeChoice(*m_ui->rbAll);
     takeLocalChoice(*m_ui->rbLocal);
 }

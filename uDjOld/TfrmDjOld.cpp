@@ -54,8 +54,7 @@ TfrmDjOld::TfrmDjOld(HistoryRecord record, QWidget *parent)
     items.setColumns(historyItemColumns());
     items.setCustomDrawCell(
         itemDrawing(toolkit::columnPosition(items, "TwoFee"), toolkit::columnPosition(items, "IsTp")));
-    m_ui->splitter->setStretchFactor(1, 1);
-    takeGrids(*m_ui->dxTLFeeType, items);
+    takeGrids(*m_ui->splitter, *m_ui->dxTLFeeType, items);
     takeChoice(*m_ui->rbAll);
     takeLocalChoice(*m_ui->rbLocal);
     takeChoice(*m_ui->rbPass);

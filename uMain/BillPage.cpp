@@ -7,6 +7,7 @@
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
 #include "toolkit/messageboxes.h"
+#include "toolkit/readabletext.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
 #include "uAddBill/TfrmAddBill.h"
@@ -41,6 +42,7 @@ BillPage::BillPage(Workbench &workbench, TClientDataSet &scratch, const BillPage
     setUpBillTree(*m_ui->tree, m_kind.treeColumn);
     setUpGrid();
     setUpMenu();
+    toolkit::keepReadable(*m_ui->count);
     m_ui->splitter->setStretchFactor(1, 1);
     connectHandlers();
     m_workbench.reload.*m_kind.ownTree = [this] { loadBillTree(); };

@@ -2,6 +2,12 @@
 // Boxes that show amounts.
 #include "toolkit/TdxCurrencyEdit.h"
 
+#include "tests/support/hints.h"
+#include "toolkit/readabletext.h"
+#include "toolkit/shownamount.h"
+
+#include <QImage>
+#include <QPalette>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -105,6 +111,61 @@ TEST(CurrencyEdit, showsTheBeginningOfAnAmountThatIsTooWide)
     TdxCurrencyEdit edit;
     edit.setValue(123456789012.0L);
     EXPECT_EQ(edit.cursorPosition(), 0);
+}
+
+class NarrowCurrencyEdit : public testing::Test {
+protected:
+    NarrowCurrencyEdit()
+    {
+        edit.setDisplayFormat(u",0.00;-,0.00"_s);
+        edit.resize(edit.fontMetrics().horizontalAdvance(u"123,456.78"_s), edit.sizeHint().height());
+        edit.setEnabled(false);
+        edit.show();
+    }
+    [[nodiscard]] QImage picture() { return edit.grab().toImage(); }
+    std::string hint() { return hints::over(edit, edit.rect().center()); }
+
+    TdxCurrencyEdit edit;
+};
+
+TEST_F(NarrowCurrencyEdit, showsCrossesForAnAmountThatIsTooWide)
+{
+    edit.setValue(1.5L);
+    const QImage whole = picture();
+    EXPECT_EQ(hint(), "");
+    edit.setValue(123456.78L);
+    const QImage crosses = picture();
+    EXPECT_NE(crosses, whole);
+    EXPECT_EQ(edit.text(), u"123,456.78"_s);
+    EXPECT_EQ(hint(), "123,456.78");
+    edit.setValue(-9876543210.5L);
+    EXPECT_EQ(picture(), crosses) << "no part of either figure";
+    EXPECT_EQ(hint(), "-9,876,543,210.50");
+    edit.setValue(1.5L);
+    EXPECT_EQ(picture(), whole);
+    edit.setValue(123456.78L);
+    edit.resize(edit.width() + 40, edit.height());
+    EXPECT_EQ(hint(), "");
+}
+
+TEST(ShownAmount, isWholeOrCrosses)
+{
+    const QFontMetrics metrics(QApplication::font());
+    const QString amount = u"1,234.50"_s;
+    const int width = metrics.horizontalAdvance(amount);
+    EXPECT_EQ(toolkit::shownAmount(amount, width, metrics), amount);
+    EXPECT_EQ(toolkit::shownAmount(amount, width - 1, metrics), u"####"_s);
+    EXPECT_EQ(toolkit::shownAmount(amount, metrics.horizontalAdvance(u'#') * 2, metrics), u"##"_s);
+    EXPECT_EQ(toolkit::shownAmount(amount, 0, metrics), u"#"_s);
+    EXPECT_EQ(toolkit::shownAmount(QString(), 0, metrics), QString());
+}
+
+TEST(CurrencyEdit, isReadableWhereItIsDisabled)
+{
+    TdxCurrencyEdit edit;
+    edit.setEnabled(false);
+    EXPECT_GE(toolkit::contrast(edit.palette().color(QPalette::Text), edit.palette().color(QPalette::Base)),
+              toolkit::ReadableContrast);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "host/clientdataset.h"
 #include "tests/support/gridreading.h"
 #include "tests/support/hostcolours.h"
+#include "tests/support/paintedcontrast.h"
 #include "tests/uAddBill/addbill.h"
 
 #include <QLabel>
@@ -92,6 +93,15 @@ TEST_F(AddBillLooksTest, totalsHaveTheHostsMoneyFormatAsTheListHas)
             EXPECT_EQ(totals(dialog).split(u'|')[1], shown);
         },
         options);
+}
+
+TEST_F(AddBillLooksTest, totalsCanBeReadAlthoughTheyAreDisabled)
+{
+    inDialog([](QWidget &dialog) {
+        tick(dialog, {0});
+        for (const char *name : {"edtUpNum", "dxCEUpTotal", "dxCEUpCanFee", "dxCEUpFreeFee"})
+            EXPECT_GE(paintedContrast(hands::find<QLineEdit>(dialog, name)), toolkit::ReadableContrast) << name;
+    });
 }
 
 TEST_F(AddBillLooksTest, oneDataSetHoldsTheCandidates)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The dialog "明细信息": a record's fees by type and item, filtered in place.
 #include "tests/support/desk.h"
+#include "tests/support/dividedroom.h"
 #include "tests/support/gridreading.h"
 #include "tests/support/hands.h"
 #include "tests/support/modalvisit.h"
@@ -339,4 +340,20 @@ TEST_F(FeeDetailTest, aMemberNumberThatIsNoNumberIsTheDatabasesToRefuse)
     EXPECT_EQ(m_desk.errors().size(), 1);
     EXPECT_EQ(openDialogs(), 0);
     visit(0, [](QWidget &dialog) { EXPECT_EQ(itemCodes(dialog), AllItems); });
+}
+
+TEST_F(FeeDetailTest, theRoomIsDividedByNeed)
+{
+    visit(0, [](QWidget &dialog) { expectRoomDividedByNeed(types(dialog), items(dialog)); });
+}
+
+TEST_F(FeeDetailTest, aLongNameLeavesTheItemsTheirRoom)
+{
+    m_desk.sqlite(
+        "update o_CbZyBxDjZb set FeeTypeName='一个很长很长很长很长很长很长很长很长很长很长很长很长的费用分类'");
+    m_desk.form().resize(900, 600);
+    visit(0, [](QWidget &dialog) {
+        QCoreApplication::processEvents();
+        EXPECT_LE(types(dialog).parentWidget()->width(), dialog.width() / 3 + 2);
+    });
 }

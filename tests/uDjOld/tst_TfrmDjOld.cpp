@@ -3,6 +3,7 @@
 #include "uDjOld/TfrmDjOld.h"
 
 #include "tests/support/desk.h"
+#include "tests/support/dividedroom.h"
 #include "tests/support/gridreading.h"
 #include "tests/support/hands.h"
 #include "tests/support/hostcolours.h"
@@ -303,4 +304,9 @@ TEST_F(DjOldTest, aRecordWithoutItemsIsEmpty)
         EXPECT_TRUE(m_desk->errors().isEmpty());
     });
     showHistoryDetail(record, &m_desk->form());
+}
+
+TEST_F(DjOldTest, theRoomIsDividedByNeed)
+{
+    inDialog("1", "4", [](QWidget &dialog) { expectRoomDividedByNeed(types(dialog), items(dialog)); });
 }

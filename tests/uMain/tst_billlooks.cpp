@@ -2,9 +2,11 @@
 // How the pages with bills look: names, captions, totals boxes, colours, the band that stays.
 #include "host/clientdataset.h"
 #include "tests/support/gridreading.h"
+#include "tests/support/paintedcontrast.h"
 #include "tests/uMain/billpages.h"
 #include "toolkit/TdxCurrencyEdit.h"
 #include "uMain/TfrmMain.h"
+#include "vortaq/app/appearance.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -169,6 +171,50 @@ TEST_P(BillLooksTest, totalsBoxesTakeNoTyping)
         const auto &box = hands::find<QLineEdit>(form(), name);
         EXPECT_TRUE(box.isReadOnly()) << name;
         EXPECT_EQ(box.isEnabled(), m_page == &History) << name;
+    }
+}
+
+TEST_P(BillLooksTest, totalsCanBeReadInEveryPalette)
+{
+    openBill();
+    const QPalette before = QApplication::palette();
+    const QFont font = QApplication::font();
+    QPalette dark(QColor(0x31, 0x36, 0x3B));
+    dark.setColor(QPalette::Base, QColor(0x1B, 0x1E, 0x20));
+    dark.setColor(QPalette::Disabled, QPalette::Base, QColor(0x1B, 0x1E, 0x20));
+    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(0x65, 0x6A, 0x6D));
+    const auto dressed = [](const QPalette &colours) { return [colours] { QApplication::setPalette(colours); }; };
+    const std::vector<std::pair<const char *, std::function<void()>>> looks = {
+        {"plain", dressed(before)}, {"host", [] { vortaq::dress(*qApp); }}, {"dark", dressed(dark)}};
+    for (const auto &[look, dress] : looks) {
+        dress();
+        QCoreApplication::processEvents();
+        for (const char *name : {m_page->count, m_page->totalFee, m_page->canFreeFee}) {
+            auto &box = hands::find<QLineEdit>(form(), name);
+            const QPalette &colours = box.palette();
+            EXPECT_GE(toolkit::contrast(colours.color(QPalette::Text), colours.color(QPalette::Base)),
+                      toolkit::ReadableContrast)
+                << look << ' ' << name;
+            EXPECT_GE(paintedContrast(box), toolkit::ReadableContrast) << look << ' ' << name;
+        }
+    }
+    QApplication::setPalette(before);
+    QApplication::setFont(font);
+}
+
+TEST_P(BillLooksTest, everyBillsAmountsAreSeenWhole)
+{
+    open();
+    m_desk->sqlite(
+        "update o_CbZyBxDj set TotalFee=123456789012.34,CanFreeFee=-23456789012.34 where PatientName='吴芳'");
+    choose(Single);
+    choose(Two);
+    for (const char *suffix : {"TotalFee", "CanFreeFee"}) {
+        const QString shown = grids::shownTexts(grid(), column(suffix).constData()).at(1);
+        EXPECT_TRUE(shown.endsWith(QStringLiteral("23,456,789,012.34")));
+        const int position = grid().columnByName(QString::fromUtf8(column(suffix)))->position();
+        EXPECT_GT(grid().columnWidth(position), grid().fontMetrics().horizontalAdvance(shown)) << suffix;
+        EXPECT_EQ(grid().column(position)->alignment(), Qt::AlignRight);
     }
 }
 

@@ -2,13 +2,15 @@
 // Painting and editing of cells.
 #include "toolkit/treelist/celldelegate.h"
 
+#include "toolkit/TdxTreeListColumn.h"
+#include "toolkit/datatip.h"
+#include "toolkit/treelist/amounteditor.h"
 #include "toolkit/treelist/celllayout.h"
+#include "toolkit/treelist/model.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
-#include <QLineEdit>
 #include <QPainter>
-#include <QToolTip>
 
 namespace toolkit::treelist {
 
@@ -66,7 +68,8 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
         }
         if (!look.text.isEmpty()) {
             painter->setPen(look.foreground);
-            drawCellText(*painter, place, look.text, look.alignment, widget);
+            const WhenTooWide whenTooWide = look.amount ? WhenTooWide::Crosses : WhenTooWide::Cut;
+            drawCellText(*painter, place, look.text, look.alignment, whenTooWide, widget);
         }
     }
     if (look.current) {
@@ -90,11 +93,40 @@ QSize CellDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
 
 QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
 {
-    auto *editor = new QLineEdit(parent);
+    const TdxTreeListColumn *column = qobject_cast<const Model *>(index.model())->columnOf(index);
+    const auto *amounts = qobject_cast<const TdxTreeListCurrencyColumn *>(column);
+    auto *editor = amounts == nullptr ? new QLineEdit(parent) : new AmountEditor(*amounts, parent);
     editor->setFrame(false);
     editor->setAutoFillBackground(true);
     editor->setAlignment(Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt()));
     return editor;
+}
+
+void CellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    if (auto *amount = qobject_cast<AmountEditor *>(editor))
+        amount->begin(index.data(Qt::EditRole).toString());
+    else
+        QStyledItemDelegate::setEditorData(editor, index);
+}
+
+void CellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+{
+    const auto *amount = qobject_cast<const AmountEditor *>(editor);
+    if (amount == nullptr || amount->hasChanged())
+        QStyledItemDelegate::setModelData(editor, model, index);
+}
+
+bool CellDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *amount = qobject_cast<const AmountEditor *>(watched);
+    const bool unfinished = amount != nullptr && !amount->hasAcceptableInput();
+    const bool taken = QStyledItemDelegate::eventFilter(watched, event);
+    if (unfinished && event->type() == QEvent::FocusOut && amount->isHidden())
+        amount->tellItIsDropped();
+    if (unfinished && event->type() == QEvent::KeyPress && taken && !amount->isHidden())
+        amount->tellWhatIsExpected(); // Enter and Tab stay in the editor
+    return taken;
 }
 
 bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
@@ -105,7 +137,7 @@ bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const Q
     const CellLook look = m_look(index);
     if (look.check || sizeHint(option, index).width() <= option.rect.width())
         return false; // the list's own hint is shown
-    QToolTip::showText(event->globalPos(), look.text, view->viewport(), option.rect);
+    showDataTip(event->globalPos(), look.text, view->viewport(), option.rect);
     return true;
 }
 

@@ -2,6 +2,8 @@
 // Measures from the font and the style, so that they follow every display scale.
 #include "toolkit/treelist/celllayout.h"
 
+#include "toolkit/shownamount.h"
+
 #include <QPainter>
 #include <QStyle>
 #include <QWidget>
@@ -28,11 +30,13 @@ QSize checkBoxSize(const QWidget &widget)
 }
 
 void drawCellText(QPainter &painter, const QRect &cell, const QString &text, Qt::Alignment alignment,
-                  const QWidget &widget)
+                  WhenTooWide whenTooWide, const QWidget &widget)
 {
     const int margin = textMargin(widget);
     const QRect place = cell.adjusted(margin, 0, -margin, 0);
-    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width());
+    const QString shown = whenTooWide == WhenTooWide::Crosses
+        ? shownAmount(text, place.width(), painter.fontMetrics())
+        : painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width());
     painter.drawText(place, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
 }
 

@@ -17,8 +17,14 @@ namespace toolkit::treelist {
 [[nodiscard]] int textMargin(const QWidget &widget);
 /// Size of a check box in the widget's style.
 [[nodiscard]] QSize checkBoxSize(const QWidget &widget);
-/// One line in the painter's pen, cut short with an ellipsis where it does not fit.
+/// What a text becomes where it does not fit.
+enum class WhenTooWide {
+    Cut, ///< its beginning with an ellipsis
+    Crosses ///< see shownAmount()
+};
+
+/// One line in the painter's pen.
 void drawCellText(QPainter &painter, const QRect &cell, const QString &text, Qt::Alignment alignment,
-                  const QWidget &widget);
+                  WhenTooWide whenTooWide, const QWidget &widget);
 
 } // namespace toolkit::treelist

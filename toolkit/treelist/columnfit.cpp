@@ -3,6 +3,7 @@
 #include "toolkit/treelist/columnfit.h"
 
 #include "toolkit/TdxTreeListColumn.h"
+#include "toolkit/treelist/amountwidth.h"
 #include "toolkit/treelist/celllayout.h"
 #include "toolkit/treelist/header.h"
 #include "toolkit/treelist/model.h"
@@ -45,8 +46,8 @@ void ColumnFit::loaded()
         const auto column = static_cast<int>(i);
         if (!m_fitted)
             refit(column);
-        else if (numbersRows(column) && !m_kept[i])
-            setWidth(column, std::max(m_header.sectionSize(column), rowsWidth(column)));
+        else
+            widen(column, numbersRows(column) ? rowsWidth(column) : amountsWidth(column));
     }
     m_fitted = true;
 }
@@ -69,7 +70,20 @@ void ColumnFit::refit(int column)
     const int wide = m_view.fontMetrics().horizontalAdvance(QStringLiteral("国")) * 20;
     const char *widest = m_columns[at]->definition().widest;
     const int sample = widest == nullptr ? rowsWidth(column) : textWidth(QString::fromUtf8(widest));
-    setWidth(column, std::max(m_header.sectionSizeHint(column), std::min(sample, wide)));
+    const int texts = std::max(m_header.sectionSizeHint(column), std::min(sample, wide));
+    setWidth(column, std::max(texts, amountsWidth(column)));
+}
+
+void ColumnFit::makeRoom(int column, const QString &shownAmount)
+{
+    if (!m_header.isPlain() && m_columns[static_cast<std::size_t>(column)]->definition().kind == ColumnKind::Currency)
+        widen(column, textWidth(shownAmount));
+}
+
+void ColumnFit::widen(int column, int width)
+{
+    if (!m_kept[static_cast<std::size_t>(column)] && width > m_header.sectionSize(column))
+        setWidth(column, width);
 }
 
 void ColumnFit::keep(int column)
@@ -116,8 +130,22 @@ int ColumnFit::treeWidth(int column) const
 
 int ColumnFit::textWidth(const QString &text) const
 {
+    return withMargins(m_view.fontMetrics().horizontalAdvance(text));
+}
+
+int ColumnFit::withMargins(int width) const
+{
     // Rounded up and a line's width more: a text a fraction of a pixel too wide is cut like any other.
-    return m_view.fontMetrics().horizontalAdvance(text) + 2 * textMargin(m_view) + 2;
+    return width + 2 * textMargin(m_view) + 2;
+}
+
+int ColumnFit::amountsWidth(int column) const
+{
+    const auto *amounts = qobject_cast<const TdxTreeListCurrencyColumn *>(m_columns[static_cast<std::size_t>(column)]);
+    const std::vector<int> &nodes = m_store.children(NodeStore::None);
+    if (amounts == nullptr || nodes.empty() || m_header.isSectionHidden(column))
+        return 0;
+    return withMargins(amountWidth(m_store, nodes, *amounts, m_view.fontMetrics()));
 }
 
 int ColumnFit::cellWidth(int node, int column) const

@@ -16,7 +16,8 @@ class Model;
 class NodeStore;
 
 /// Widths are fitted once, to the captions and the first rows loaded; measuring every row of every load would cost
-/// more than the load. What the user resized stays.
+/// more than the load. Columns of amounts grow with every load, for no part of an amount is ever shown. What the user
+/// resized stays.
 class ColumnFit {
 public:
     ColumnFit(QTreeView &view, Header &header, const Model &model, const NodeStore &store);
@@ -26,6 +27,8 @@ public:
     void loaded();
     /// Format or drawing of a column changed.
     void refit(int column);
+    /// An amount came into the column by itself: typed, or as the sum below it. Nothing for other columns.
+    void makeRoom(int column, const QString &shownAmount);
     /// The user resized it.
     void keep(int column);
     /// In a plain list (a tree) the last column takes the width that is left; longer texts scroll.
@@ -34,10 +37,14 @@ public:
 private:
     /// Widest text of the rows that a first look shows, and of the last row.
     [[nodiscard]] int rowsWidth(int column) const;
+    /// Widest amount of all rows; 0 in other columns.
+    [[nodiscard]] int amountsWidth(int column) const;
     [[nodiscard]] int treeWidth(int column) const;
     [[nodiscard]] int textWidth(const QString &text) const;
+    [[nodiscard]] int withMargins(int width) const;
     [[nodiscard]] int cellWidth(int node, int column) const;
     [[nodiscard]] bool numbersRows(int column) const;
+    void widen(int column, int width);
     void setWidth(int column, int width);
 
     QTreeView &m_view;

@@ -2,18 +2,21 @@
 // Painting of the footer.
 #include "toolkit/treelist/footer.h"
 
+#include "toolkit/TdxTreeListColumn.h"
+#include "toolkit/datatip.h"
 #include "toolkit/treelist/celllayout.h"
 #include "toolkit/treelist/header.h"
 
+#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
 namespace toolkit::treelist {
 
-Footer::Footer(QWidget *parent, const Header &header, AlignmentOf alignmentOf)
+Footer::Footer(QWidget *parent, const Header &header, ColumnAt columnAt)
     : QWidget(parent)
     , m_header(header)
-    , m_alignmentOf(std::move(alignmentOf))
+    , m_columnAt(std::move(columnAt))
 {
 }
 
@@ -43,15 +46,45 @@ QSize Footer::sizeHint() const
     return {0, rowHeight(*this)};
 }
 
+QRect Footer::cellRect(int column) const
+{
+    return {m_header.cellLeft(column), 0, m_header.sectionSize(column), height()};
+}
+
 void Footer::paintCell(QPainter &painter, int column) const
 {
-    const QRect cell(m_header.cellLeft(column), 0, m_header.sectionSize(column), height());
+    const QRect cell = cellRect(column);
     painter.fillRect(cell.right(), 0, 1, cell.height(), palette().color(QPalette::Mid));
     const QString shown = text(column);
     if (shown.isEmpty())
         return;
     painter.setPen(palette().color(QPalette::ButtonText));
-    drawCellText(painter, cell, shown, m_alignmentOf(column), *this);
+    const TdxTreeListColumn &about = m_columnAt(column);
+    const bool amount = about.definition().kind == ColumnKind::Currency;
+    drawCellText(painter, cell, shown, about.alignment(), amount ? WhenTooWide::Crosses : WhenTooWide::Cut, *this);
+}
+
+int Footer::columnSeenAt(int x) const
+{
+    for (int column = 0; column < m_header.count(); ++column) { // those of the band stand before the others
+        const QRect cell = cellRect(column);
+        if (!m_header.isSectionHidden(column) && x >= cell.left() && x <= cell.right())
+            return column;
+    }
+    return -1;
+}
+
+bool Footer::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto &help = static_cast<const QHelpEvent &>(*event);
+    const int column = columnSeenAt(help.pos().x());
+    const QString shown = column < 0 ? QString() : text(column);
+    if (fontMetrics().horizontalAdvance(shown) <= cellRect(column).width() - 2 * textMargin(*this))
+        return QWidget::event(event);
+    showDataTip(help.globalPos(), shown, this, cellRect(column));
+    return true;
 }
 
 void Footer::paintEvent(QPaintEvent *event)

@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+class TdxTreeListColumn;
+
 namespace toolkit::treelist {
 
 class Header;
@@ -16,9 +18,9 @@ class Footer final : public QWidget {
     Q_OBJECT
 
 public:
-    using AlignmentOf = std::function<Qt::Alignment(int column)>;
+    using ColumnAt = std::function<const TdxTreeListColumn &(int position)>;
 
-    Footer(QWidget *parent, const Header &header, AlignmentOf alignmentOf);
+    Footer(QWidget *parent, const Header &header, ColumnAt columnAt);
 
     void setText(int column, const QString &text);
     [[nodiscard]] QString text(int column) const;
@@ -28,12 +30,17 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    /// The whole text of a cell that cuts it short, as a hint.
+    bool event(QEvent *event) override;
 
 private:
+    [[nodiscard]] QRect cellRect(int column) const;
     void paintCell(QPainter &painter, int column) const;
+    /// The column whose cell is seen at x; -1 for none.
+    [[nodiscard]] int columnSeenAt(int x) const;
 
     const Header &m_header;
-    AlignmentOf m_alignmentOf;
+    ColumnAt m_columnAt;
     std::vector<QString> m_texts;
 };
 

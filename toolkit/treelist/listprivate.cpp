@@ -28,7 +28,8 @@ TdxTreeList::Private::Private(TdxTreeList *list)
     : q(list)
     , model(new Model(store, list))
     , header(new Header(list))
-    , footer(new Footer(list, *header, [this](int column) { return columns[std::size_t(column)]->alignment(); }))
+    , footer(new Footer(list, *header,
+                        [this](int position) -> const TdxTreeListColumn & { return *columns[std::size_t(position)]; }))
     , fit(*list, *header, *model, store)
 {
 }
@@ -69,6 +70,8 @@ void TdxTreeList::Private::valueChanged(int node, int position)
     if (resetting)
         return;
     if (updates == 0) {
+        if (position < int(columns.size()))
+            fit.makeRoom(position, model->shownText(node, *columns[std::size_t(position)]));
         model->valueChanged(node, position);
         return;
     }
@@ -272,6 +275,7 @@ CellLook TdxTreeList::Private::look(const QModelIndex &index)
     CellLook look;
     look.text = style.text;
     look.alignment = column.alignment();
+    look.amount = column.definition().kind == toolkit::ColumnKind::Currency;
     look.check = column.definition().kind == toolkit::ColumnKind::Check;
     look.ticked = look.check && isTicked(store, node, column);
     look.image = index.column() == 0 ? model->image(node, isFocused) : QIcon();

@@ -4,6 +4,7 @@
 
 #include "toolkit/TdxTreeListColumn.h"
 #include "toolkit/displayformat.h"
+#include "toolkit/treelist/amounteditor.h"
 
 #include <stdexcept>
 #include <string_view>
@@ -180,7 +181,14 @@ bool Model::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
         return false;
-    m_edited(nodeOf(index), index.column(), value.toString());
+    QString text = value.toString();
+    if (const auto *amounts = qobject_cast<const TdxTreeListCurrencyColumn *>(columnOf(index))) {
+        const std::optional<QString> amount = typedAmount(text, showsThousands(amounts->displayFormat()));
+        if (!amount)
+            return false; // sums over the column would fail
+        text = *amount;
+    }
+    m_edited(nodeOf(index), index.column(), text);
     return true;
 }
 
