@@ -11,4 +11,15 @@ Error::Error(Reason reason, const QString &message)
 
 Error::~Error() = default;
 
+QString messageOfCurrent()
+{
+    try {
+        throw;
+    } catch (const std::exception &error) {
+        return messageOf(error);
+    } catch (...) {
+        return QStringLiteral("未知错误。");
+    }
+}
+
 } // namespace automation

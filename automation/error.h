@@ -37,4 +37,8 @@ private:
     return QString::fromUtf8(error.what());
 }
 
+/// The message of the exception that a handler has caught, whatever it is: "未知错误。" for one that is not derived
+/// from std::exception.
+[[nodiscard]] AUTOMATION_EXPORT QString messageOfCurrent();
+
 } // namespace automation

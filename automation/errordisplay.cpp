@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "automation/errordisplay.h"
 
+#include "automation/error.h"
+
 #include <QDebug>
 
 #include <utility>
@@ -29,8 +31,8 @@ void displayError(const QString &message) noexcept
             current()(message);
         else
             qCritical().noquote() << message;
-    } catch (const std::exception &error) {
-        qCritical().noquote() << message << error.what();
+    } catch (...) {
+        qCritical().noquote() << message << messageOfCurrent();
     }
 }
 

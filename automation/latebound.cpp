@@ -111,9 +111,9 @@ QVariant LateBound::invoke(const Operation &operation, std::initializer_list<QVa
     CallRecord record{m_name, operation.m_name, operation.m_kind, QVariantList(arguments), {}, {}, true};
     try {
         record.result = run(operation, arguments);
-    } catch (const std::exception &error) {
+    } catch (...) { // a host may throw what it likes
         record.succeeded = false;
-        record.error = messageOf(error);
+        record.error = messageOfCurrent();
         writeJournal(record);
         throw;
     }

@@ -15,7 +15,7 @@ void rollBackAndAlert(References &host, const QString &failure, const QString &r
     std::exception_ptr rollbackFailure;
     try {
         host.DataCtl.RollbackTran();
-    } catch (const std::exception &) {
+    } catch (...) {
         rollbackFailure = std::current_exception();
     }
     host.FuncStorage.Alert(failure + QStringLiteral("\r\n") + reason);
@@ -33,8 +33,8 @@ void runChange(References &host, const QString &failure, FailingBegin failingBeg
         if (failingBegin == FailingBegin::IsAlerted)
             host.DataCtl.BeginTran();
         steps();
-    } catch (const std::exception &error) {
-        rollBackAndAlert(host, failure, automation::messageOf(error));
+    } catch (...) { // whatever a host throws, its transaction may not stay open
+        rollBackAndAlert(host, failure, automation::messageOfCurrent());
     }
 }
 

@@ -33,6 +33,7 @@ public:
     Q_INVOKABLE int add(int first, int second) { return first + second; }
     Q_INVOKABLE QVariant echo(const QVariant &value) { return value; }
     Q_INVOKABLE void fail(const QString &message) { throw std::runtime_error(message.toStdString()); }
+    Q_INVOKABLE void failOddly() { throw 42; } // what no standard exception is derived from
     Q_INVOKABLE void nothing() { ++m_calls; }
     Q_INVOKABLE automation::DataPacketPtr rows()
     {

@@ -182,6 +182,16 @@ TEST_F(LateBoundTest, journalHoldsEveryCallInOrder)
     EXPECT_EQ(recorder.calls[3].error, QStringLiteral("坏"));
 }
 
+TEST_F(LateBoundTest, journalHoldsAFailureThatIsNoException)
+{
+    const LateBound object(Id);
+    const Recorder recorder;
+    EXPECT_THROW(object.invoke(QStringLiteral("failOddly"), Kind::Method), int);
+    ASSERT_EQ(recorder.calls.size(), 1U);
+    EXPECT_FALSE(recorder.calls[0].succeeded);
+    EXPECT_EQ(recorder.calls[0].error, QStringLiteral("未知错误。"));
+}
+
 TEST_F(LateBoundTest, journalEndsWithItsObserver)
 {
     const LateBound object(Id);

@@ -12,10 +12,10 @@
 
 #include <stdexcept>
 
-/// What the scripted objects share.
 struct HostScript {
     QStringList calls;
     QString failingCall; ///< the call, as it stands in `calls`, that raises an error
+    bool failsOddly = false; ///< with something that is no std::exception
     QHash<QString, QVariant> parameters;
     automation::DataPacketPtr rows = automation::DataPacketBuilder({}).finish();
 
@@ -23,7 +23,7 @@ struct HostScript {
     {
         calls.append(call);
         if (call == failingCall)
-            throw std::runtime_error("故障");
+            failsOddly ? throw 42 : throw std::runtime_error("故障");
     }
 };
 

@@ -126,6 +126,22 @@ TEST_F(GatewayTest, failingRollbackIsRaisedAfterTheAlert)
     EXPECT_EQ(m_host.script.calls, calls({"BeginTran", "RollbackTran", "Alert 制单失败！\r\n先坏"}));
 }
 
+TEST_F(GatewayTest, aFailureThatIsNoExceptionRollsBackAndAlertsToo)
+{
+    host::runChange(m_references, QStringLiteral("制单失败！"), host::FailingBegin::Propagates, [] { throw 42; });
+    EXPECT_EQ(m_host.script.calls, calls({"BeginTran", "RollbackTran", "Alert 制单失败！\r\n未知错误。"}));
+}
+
+TEST_F(GatewayTest, aRollbackThatFailsOddlyIsRaisedAfterTheAlert)
+{
+    m_host.script.failingCall = QStringLiteral("RollbackTran");
+    m_host.script.failsOddly = true;
+    EXPECT_THROW(host::runChange(m_references, QStringLiteral("制单失败！"), host::FailingBegin::Propagates,
+                                 [] { throw std::runtime_error("先坏"); }),
+                 int);
+    EXPECT_EQ(m_host.script.calls, calls({"BeginTran", "RollbackTran", "Alert 制单失败！\r\n先坏"}));
+}
+
 TEST_F(GatewayTest, institutionListFollowsIsBillAll)
 {
     auto &parameters = m_host.script.parameters;
