@@ -2,6 +2,10 @@
 // The one gate through which a text value enters a statement.
 #include "data/quoting.h"
 
+#include <QByteArrayView>
+
+#include <algorithm>
+
 namespace data {
 
 QString quotedStr(const QString &value)
@@ -16,6 +20,15 @@ QString quotedStr(const QString &value)
     }
     quoted += u'\'';
     return quoted;
+}
+
+bool comesBackUnchanged(std::string_view utf8)
+{
+    const auto isPlain = [](char byte) { return byte != 0 && static_cast<unsigned char>(byte) < 0x80; };
+    if (std::all_of(utf8.begin(), utf8.end(), isPlain))
+        return true;
+    const QByteArrayView bytes(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    return !bytes.contains('\0') && QString::fromUtf8(bytes).toUtf8() == bytes;
 }
 
 } // namespace data

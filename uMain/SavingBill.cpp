@@ -27,23 +27,23 @@ SavingBill::SavingBill(Workbench &workbench, TClientDataSet &scratch, QWidget *w
 
 SavingBill::Check SavingBill::check(const std::vector<data::RecordKey> &records, const QString &writeDate)
 {
-    m_condition = data::anyOfRecords(records);
+    m_condition = data::RecordChoice(records);
     Workbench::Reloads &reload = m_workbench.reload;
     if (m_workbench.session.connStyle == 1) {
-        if (!confirmWithoutLost(data::alreadyBilled(m_condition), BilledMeanwhile)) {
+        if (!confirmWithoutLost(data::alreadyBilled(m_condition.text()), BilledMeanwhile)) {
             reload.unbilledTree();
             reload.candidates();
             reload.reportedBills();
             reload.history();
             return Check::Declined;
         }
-        if (!confirmWithoutLost(data::noLongerDischarged(m_condition), ReturnedMeanwhile)) {
+        if (!confirmWithoutLost(data::noLongerDischarged(m_condition.text()), ReturnedMeanwhile)) {
             reload.unbilledTree();
             reload.candidates();
             return Check::Declined;
         }
     }
-    m_workbench.LoadDataSet(data::dischargedAfter(m_condition, writeDate), m_scratch);
+    m_workbench.LoadDataSet(data::dischargedAfter(m_condition.text(), writeDate), m_scratch);
     return m_scratch.isEmpty() ? Check::Passed : Check::DischargedLater;
 }
 
@@ -58,7 +58,7 @@ bool SavingBill::confirmWithoutLost(const QString &statement, const QString &que
                                   m_scratch.text(QStringLiteral("CoopMedCode")), m_scratch.text(QStringLiteral("IDNo")),
                                   m_scratch.text(QStringLiteral("DiagNo"))};
         lost += LineBreak + key.coopMedCode + QStringLiteral("   ") + m_scratch.text(QStringLiteral("PatientName"));
-        m_condition = data::withoutRecord(m_condition, key);
+        m_condition.cut(key);
     }
     return toolkit::messageBoxes().ask(m_window, Title, question + lost + LineBreak + Continue);
 }
@@ -75,8 +75,8 @@ void SavingBill::write(data::NewBill bill)
     // finds nothing to roll back, and by the alert.
     host::runChange(m_workbench.host(), Failure, host::FailingBegin::Propagates, [&] {
         bill.key.number = GetNewBillNo(bill.key.code);
-        m_workbench.execSql(data::insertBill(bill, m_condition));
-        m_workbench.execSql(data::assignRecords(bill.key, m_condition));
+        m_workbench.execSql(data::insertBill(bill, m_condition.text()));
+        m_workbench.execSql(data::assignRecords(bill.key, m_condition.text()));
         m_workbench.host().DataCtl.CommitTran();
         m_workbench.host().FuncStorage.ShowHint(Success);
         m_workbench.reload.unbilledTree();

@@ -2,7 +2,7 @@
 // The button "保存制单": ticked records become one numbered bill.
 #pragma once
 
-#include "data/recordkey.h"
+#include "data/recordchoice.h"
 #include "data/statements/savingbill.h"
 
 #include <QString>
@@ -35,5 +35,5 @@ private:
     Workbench &m_workbench;
     TClientDataSet &m_scratch;
     QWidget *m_window;
-    QString m_condition;
+    data::RecordChoice m_condition;
 };

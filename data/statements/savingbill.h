@@ -8,7 +8,7 @@
 
 namespace data {
 
-// `condition` is what anyOfRecords() made, perhaps shortened by withoutRecord().
+// `condition` is what anyOfRecords() made, perhaps shortened by RecordChoice::cut().
 
 /// Ticked records that somebody billed meanwhile: OrgCode, CoopMedCode, IDNO, DiagNo, PatientName.
 [[nodiscard]] QString alreadyBilled(const QString &condition);

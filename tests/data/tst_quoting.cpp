@@ -35,6 +35,28 @@ const Row Rows[] = {
 INSTANTIATE_TEST_SUITE_P(Values, QuotedStr, testing::ValuesIn(Rows),
                          [](const testing::TestParamInfo<Row> &row) { return row.param.name; });
 
+TEST(ComesBackUnchanged, plainAndChineseText)
+{
+    for (const char *text : {"", "0012", "证'号", "\xF0\xA0\xAE\xB7", "\xEF\xBF\xBD"}) // 𠮷; the replacement itself
+        EXPECT_TRUE(data::comesBackUnchanged(text)) << text;
+}
+
+TEST(ComesBackUnchanged, notWithBytesThatAreLostOnTheWay)
+{
+    using namespace std::string_view_literals;
+    for (const std::string_view text : {
+             "00\0\x31\x32"sv, // a zero
+             "\0"sv,
+             "\xBA\xCF"sv, // GBK
+             "0012\xFF"sv,
+             "\xE8\xAF"sv, // half a character
+             "\xED\xA0\x80"sv, // half a pair
+             "\xC0\xB0"sv, // a digit in too many bytes
+             "\xEF\xBB\xBF\x30"sv, // a byte-order mark
+         })
+        EXPECT_FALSE(data::comesBackUnchanged(text)) << text;
+}
+
 TEST(QuotedStrOnly, keepsAZeroCharacter)
 {
     EXPECT_EQ(data::quotedStr(QString(QChar(u'\0'))), QStringLiteral("'") + QChar(u'\0') + QStringLiteral("'"));
