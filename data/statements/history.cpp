@@ -10,7 +10,7 @@ namespace data {
 
 using namespace Qt::Literals::StringLiterals;
 
-QString historyBills(const QString &orgCode)
+QString historyBills(const QString &orgCodeInUse, const QString &orgCodeArchived)
 {
     const QString grouping = u" group by a.BillCode,a.BillName,a.BillNo,a.WriteDate,CheckStatus,a.Fee,a.CanFreeFee,"
                              u"a.CheckFee1,a.CheckFee "_s;
@@ -18,12 +18,12 @@ QString historyBills(const QString &orgCode)
            u"126) as WriteDate,CheckStatus,1 as Type,  a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee"
            u"  from o_CbZyZdb a,o_CbZyBxDj b  where a.BillCode=b.BillCode and a.BillNo=b.BillNo"
            u"    and a.BillCode="_s
-        + quotedStr(orgCode) + grouping + u" union all "_s
+        + quotedStr(orgCodeInUse) + grouping + u" union all "_s
         + u" select a.BillCode,a.BillName,a.BillNo,convert(varchar(10),WriteDate,126) as WriteDate,"
           u"CheckStatus,2 as Type, "_s
         + u" a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee "_s + u" from s_CbZyZdb a,s_CbZyBxDj b "_s
-        + u" where a.BillCode=b.BillCode and a.BillNo=b.BillNo "_s + u"   and a.BillCode="_s + quotedStr(orgCode)
-        + grouping + u") a"_s + u" order by a.BillCode,a.BillNo desc "_s;
+        + u" where a.BillCode=b.BillCode and a.BillNo=b.BillNo "_s + u"   and a.BillCode="_s
+        + quotedStr(orgCodeArchived) + grouping + u") a"_s + u" order by a.BillCode,a.BillNo desc "_s;
 }
 
 QString historyRecords(const QString &billType, const BillKey &bill)

@@ -72,7 +72,8 @@ inline QStringList returnedBills()
 
 inline QStringList history()
 {
-    return QStringList({read("OrgCode"), read("OrgCode")}) + query(data::historyBills(QStringLiteral("42990101")));
+    return QStringList({read("OrgCode"), read("OrgCode")})
+        + query(data::historyBills(QStringLiteral("42990101"), QStringLiteral("42990101")));
 }
 
 } // namespace expected

@@ -64,7 +64,7 @@ protected:
     const QString m_institutions = data::institutionsWithUnbilled();
     const QString m_patients = data::unbilledRecords(QStringLiteral("42990101"));
     const QString m_candidates = data::billCandidates(std::nullopt);
-    const QString m_history = data::historyBills(QStringLiteral("42990101"));
+    const QString m_history = data::historyBills(QStringLiteral("42990101"), QStringLiteral("42990101"));
 };
 
 QStringList alerted(const char *text)

@@ -30,7 +30,7 @@ TEST_P(HistoryStatement, isByteForByte)
 }
 
 const Row Rows[] = {
-    {"HistoryBillsPlain", historyBills(u"4201"_s),
+    {"HistoryBillsPlain", historyBills(u"4201"_s, u"4201"_s),
      " select * from (  select a.BillCode,a.BillName,a.BillNo,convert(varchar(10),WriteDate,126) as"
      " WriteDate,CheckStatus,1 as Type,  a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee  from o_CbZyZdb a,"
      "o_CbZyBxDj b  where a.BillCode=b.BillCode and a.BillNo=b.BillNo    and a.BillCode='4201' group by"
@@ -40,17 +40,17 @@ const Row Rows[] = {
      "  where a.BillCode=b.BillCode and a.BillNo=b.BillNo    and a.BillCode='4201' group by a.BillCode,"
      "a.BillName,a.BillNo,a.WriteDate,CheckStatus,a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee ) a order by"
      " a.BillCode,a.BillNo desc "},
-    {"HistoryBillsQuotesAndChinese", historyBills(u"42'01"_s),
+    {"HistoryBillsEachHalfWithItsCode", historyBills(u"42'01"_s, u"院'"_s),
      " select * from (  select a.BillCode,a.BillName,a.BillNo,convert(varchar(10),WriteDate,126) as"
      " WriteDate,CheckStatus,1 as Type,  a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee  from o_CbZyZdb a,"
      "o_CbZyBxDj b  where a.BillCode=b.BillCode and a.BillNo=b.BillNo    and a.BillCode='42''01' group by"
      " a.BillCode,a.BillName,a.BillNo,a.WriteDate,CheckStatus,a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee"
      "  union all  select a.BillCode,a.BillName,a.BillNo,convert(varchar(10),WriteDate,126) as WriteDate,"
      "CheckStatus,2 as Type,  a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee  from s_CbZyZdb a,s_CbZyBxDj b"
-     "  where a.BillCode=b.BillCode and a.BillNo=b.BillNo    and a.BillCode='42''01' group by a.BillCode,"
+     "  where a.BillCode=b.BillCode and a.BillNo=b.BillNo    and a.BillCode='院''' group by a.BillCode,"
      "a.BillName,a.BillNo,a.WriteDate,CheckStatus,a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee ) a order by"
      " a.BillCode,a.BillNo desc "},
-    {"HistoryBillsEmpty", historyBills(u""_s),
+    {"HistoryBillsEmpty", historyBills(u""_s, u""_s),
      " select * from (  select a.BillCode,a.BillName,a.BillNo,convert(varchar(10),WriteDate,126) as"
      " WriteDate,CheckStatus,1 as Type,  a.Fee,a.CanFreeFee,a.CheckFee1,a.CheckFee  from o_CbZyZdb a,"
      "o_CbZyBxDj b  where a.BillCode=b.BillCode and a.BillNo=b.BillNo    and a.BillCode='' group by"
