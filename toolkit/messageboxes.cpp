@@ -46,19 +46,31 @@ QPushButton *addButton(QMessageBox &box, const QString &name, const QString &cap
     return button;
 }
 
+enum class Default { Yes, No };
+
 class RealMessageBoxes final : public MessageBoxes {
-public:
-    bool ask(QWidget *parent, const QString &title, const QString &text) override
+    static bool answer(QWidget *parent, const QString &title, const QString &text, Default byDefault)
     {
         QMessageBox box(parent);
         prepare(box, title, text);
         QPushButton *yes = addButton(box, QStringLiteral("btnYes"), QStringLiteral("是(&Y)"), QMessageBox::YesRole);
         QPushButton *no = addButton(box, QStringLiteral("btnNo"), QStringLiteral("否(&N)"), QMessageBox::NoRole);
-        box.setDefaultButton(yes);
+        box.setDefaultButton(byDefault == Default::Yes ? yes : no);
         box.setEscapeButton(no);
         keepOnScreen(box);
         box.exec();
         return box.clickedButton() == yes;
+    }
+
+public:
+    bool ask(QWidget *parent, const QString &title, const QString &text) override
+    {
+        return answer(parent, title, text, Default::Yes);
+    }
+
+    bool askBeforeLoss(QWidget *parent, const QString &title, const QString &text) override
+    {
+        return answer(parent, title, text, Default::No);
     }
 
     void tell(QWidget *parent, const QString &title, const QString &text) override

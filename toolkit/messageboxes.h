@@ -14,6 +14,11 @@ public:
 
     /// Yes/No with the question icon; true for Yes. Escape and closing the box count as No.
     [[nodiscard]] virtual bool ask(QWidget *parent, const QString &title, const QString &text) = 0;
+    /// The same before something is taken away: an Enter too many means No.
+    [[nodiscard]] virtual bool askBeforeLoss(QWidget *parent, const QString &title, const QString &text)
+    {
+        return ask(parent, title, text);
+    }
     /// OK only, with the question icon.
     virtual void tell(QWidget *parent, const QString &title, const QString &text) = 0;
 };

@@ -95,6 +95,26 @@ TEST(AskBox, takesEnterForTheFirstButton)
     EXPECT_TRUE(answerOf([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); }));
 }
 
+TEST(AskBoxBeforeLoss, takesEnterForNo)
+{
+    const WhenBoxOpens opened([](QMessageBox &box) {
+        EXPECT_EQ(box.buttons().size(), 2);
+        EXPECT_EQ(box.defaultButton(), box.findChild<QPushButton *>(u"btnNo"_s));
+        EXPECT_EQ(box.windowTitle(), u"确认"_s);
+        EXPECT_EQ(box.text(), text());
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    EXPECT_FALSE(toolkit::messageBoxes().askBeforeLoss(nullptr, u"确认"_s, text()));
+    EXPECT_TRUE(opened.opened());
+}
+
+TEST(AskBoxBeforeLoss, takesYesByItsLetter)
+{
+    const WhenBoxOpens opened([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Y); });
+    EXPECT_TRUE(toolkit::messageBoxes().askBeforeLoss(nullptr, u"确认"_s, text()));
+    EXPECT_TRUE(opened.opened());
+}
+
 TEST(AskBox, takesItsLetters)
 {
     EXPECT_TRUE(answerOf([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Y); }));
