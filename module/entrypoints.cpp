@@ -3,6 +3,7 @@
 #include "module/formregister.h"
 #include "module/moduleinfo.h"
 #include "module/tarnwell_module.h"
+#include "toolkit/guard.h"
 #include "uMain/TfrmMain.h"
 
 #include <QDebug>
@@ -30,6 +31,8 @@ template <typename Body> int32_t caught(Body body) noexcept
 
 int32_t CreateModule(void **form, intptr_t, intptr_t, intptr_t, intptr_t, intptr_t, intptr_t)
 {
+    if (form == nullptr)
+        return TARNWELL_UNEXPECTED;
     return caught([form] {
         *form = static_cast<QWidget *>(FormRegister::instance().create());
         return TARNWELL_OK;
@@ -41,8 +44,13 @@ int32_t FreeModule(void **form)
     return caught([form] {
         if (FormRegister::instance().mainForm() == nullptr)
             return TARNWELL_OK;
-        const std::unique_ptr<TfrmMain> passed(FormRegister::instance().find(*form));
-        return passed ? TARNWELL_OK : TARNWELL_UNEXPECTED;
+        TfrmMain *passed = form == nullptr ? nullptr : FormRegister::instance().find(*form);
+        if (passed == nullptr)
+            return TARNWELL_UNEXPECTED;
+        if (toolkit::HandlerAtWork::any())
+            return TARNWELL_BUSY;
+        const std::unique_ptr<TfrmMain> destroyed(passed);
+        return TARNWELL_OK;
     });
 }
 
@@ -53,6 +61,8 @@ int32_t RefreshModule(intptr_t, intptr_t)
 
 int32_t GetModuleInfo(intptr_t, char **buffer)
 {
+    if (buffer == nullptr || *buffer == nullptr)
+        return TARNWELL_UNEXPECTED;
     return caught([buffer] {
         std::memcpy(*buffer, module::ModuleInfo.data(), module::ModuleInfo.size());
         return TARNWELL_OK;

@@ -7,7 +7,7 @@
  *          CreateModule handed out.
  * Thread:  the host's user-interface thread, with a QApplication in existence. Nothing is locked.
  * Errors:  0 on success. No exception crosses the boundary: whatever goes wrong inside becomes a negative status, and
- *          an output that was not written yet stays unwritten.
+ *          an output that was not written yet stays unwritten. A null address is TARNWELL_UNEXPECTED.
  * Paths:   setup.ini and the folder "Module" are looked for beside the host's executable.
  */
 #ifndef TARNWELL_MODULE_H
@@ -33,7 +33,8 @@
 
 /* Status codes. */
 #define TARNWELL_OK ((int32_t)0)
-#define TARNWELL_UNEXPECTED ((int32_t)0x8000FFFF) /* an unforeseen error inside the module */
+#define TARNWELL_BUSY ((int32_t)0x8000000A) /* FreeModule: something of the module is still going on; see there */
+#define TARNWELL_UNEXPECTED ((int32_t)0x8000FFFF) /* an unforeseen error inside the module, or a wrong argument */
 
 /* Bytes that a buffer for GetModuleInfo must hold: 55 of text and the terminating zero. */
 #define TARNWELL_MODULE_INFO_SIZE 56
@@ -50,9 +51,19 @@ typedef int32_t(TARNWELL_CALL *TarnwellCreateModule)(void **form, intptr_t, intp
 TARNWELL_API int32_t TARNWELL_CALL CreateModule(void **form, intptr_t value2, intptr_t value3, intptr_t value4,
                                                 intptr_t value5, intptr_t value6, intptr_t value7);
 
-/* Destroys the form that *form names, provided that the module has created one since it was loaded; otherwise does
- * nothing. Neither *form nor the module's own memory of the last form is cleared. A form that is gone already is
- * answered with TARNWELL_UNEXPECTED. */
+/* Destroys the form that *form names. Neither *form nor the module's own memory of the last form is cleared.
+ *
+ * TARNWELL_OK          the form is destroyed; or the module has created no form since it was loaded, and nothing was
+ *                      done, whatever the argument.
+ * TARNWELL_UNEXPECTED  nothing was done: form or *form is null, or *form is no living form of this module, as one
+ *                      that has been destroyed already.
+ * TARNWELL_BUSY        nothing was done: a dialog, a question or a print preview of the module is open, the host is
+ *                      showing something for it (a message, the look-up), or a change is under way; with several
+ *                      forms, whichever of them is concerned. Try again when the modal loop has ended, that is from
+ *                      the host's own event loop. A host that cannot wait for the clerk closes
+ *                      QApplication::activeModalWidget() until there is none (a question takes that for "no") and then
+ *                      tries again. Neither the form's parent nor the module may go before.
+ */
 typedef int32_t(TARNWELL_CALL *TarnwellFreeModule)(void **form);
 TARNWELL_API int32_t TARNWELL_CALL FreeModule(void **form);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/recordcolumns.h"
 
+#include "data/quoting.h"
 #include "toolkit/TdxTreeList.h"
 #include "toolkit/displayformat.h"
 
@@ -28,6 +29,13 @@ RecordColumns::RecordColumns(const TdxTreeList &grid)
 data::RecordKey RecordColumns::key(const TdxTreeListNode &row) const
 {
     return {row.text(m_orgCode), row.text(m_coopMedCode), row.text(m_idNo), row.text(m_diagNo)};
+}
+
+bool RecordColumns::keyFindsRow(const TdxTreeListNode &row) const
+{
+    std::string scratch;
+    const auto isUnchanged = [&](int position) { return data::comesBackUnchanged(row.utf8(position, scratch)); };
+    return isUnchanged(m_orgCode) && isUnchanged(m_coopMedCode) && isUnchanged(m_idNo) && isUnchanged(m_diagNo);
 }
 
 bool isTicked(const TdxTreeListNode &row, int checkColumn)

@@ -19,6 +19,8 @@ public:
     explicit RecordColumns(const TdxTreeList &grid);
 
     [[nodiscard]] data::RecordKey key(const TdxTreeListNode &row) const;
+    /// Whether a statement with that key can find the row; see data::comesBackUnchanged().
+    [[nodiscard]] bool keyFindsRow(const TdxTreeListNode &row) const;
 
 private:
     int m_orgCode;

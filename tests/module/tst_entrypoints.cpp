@@ -3,6 +3,7 @@
 #include "module/moduleinfo.h"
 #include "module/tarnwell_module.h"
 #include "tests/support/desk.h"
+#include "toolkit/guard.h"
 
 #include <gtest/gtest.h>
 
@@ -52,6 +53,7 @@ TEST(EntryPointsA, freeBeforeCreateDoesNothing)
     void *form = &object;
     EXPECT_EQ(FreeModule(&form), TARNWELL_OK);
     EXPECT_EQ(form, &object);
+    EXPECT_EQ(FreeModule(nullptr), TARNWELL_OK);
 }
 
 TEST(EntryPointsB, formIsCreatedHidden)
@@ -85,6 +87,35 @@ TEST(EntryPointsB, aFormThatIsGoneIsRefused)
     EXPECT_EQ(FreeModule(&form), TARNWELL_UNEXPECTED);
     form = nullptr;
     EXPECT_EQ(FreeModule(&form), TARNWELL_UNEXPECTED);
+    EXPECT_EQ(FreeModule(nullptr), TARNWELL_UNEXPECTED);
+    QWidget stranger;
+    form = &stranger;
+    EXPECT_EQ(FreeModule(&form), TARNWELL_UNEXPECTED);
+}
+
+TEST(EntryPointsB, nullAddressesAreRefused)
+{
+    EXPECT_EQ(CreateModule(nullptr, 0, 0, 0, 0, 0, 0), TARNWELL_UNEXPECTED);
+    char *buffer = nullptr;
+    EXPECT_EQ(GetModuleInfo(0, &buffer), TARNWELL_UNEXPECTED);
+    EXPECT_EQ(GetModuleInfo(0, nullptr), TARNWELL_UNEXPECTED);
+}
+
+TEST(EntryPointsB, aHandlerAtWorkKeepsEveryForm)
+{
+    void *form = create();
+    const QPointer<QWidget> widget(static_cast<QWidget *>(form));
+    int32_t status = TARNWELL_OK;
+    toolkit::guarded([&] { status = FreeModule(&form); });
+    EXPECT_EQ(status, TARNWELL_BUSY);
+    ASSERT_FALSE(widget.isNull());
+    toolkit::guarded([&] {
+        void *none = nullptr;
+        status = FreeModule(&none);
+    });
+    EXPECT_EQ(status, TARNWELL_UNEXPECTED) << "a wrong argument is wrong at any time";
+    EXPECT_EQ(FreeModule(&form), TARNWELL_OK);
+    EXPECT_TRUE(widget.isNull());
 }
 
 TEST(EntryPointsB, aFormDestroyedByItsParentIsGoneToo)
@@ -101,4 +132,6 @@ TEST(EntryPointsB, statusCodesAreTheContracts)
 {
     EXPECT_EQ(static_cast<uint32_t>(TARNWELL_UNEXPECTED), 0x8000FFFFU);
     EXPECT_LT(TARNWELL_UNEXPECTED, 0);
+    EXPECT_EQ(static_cast<uint32_t>(TARNWELL_BUSY), 0x8000000AU);
+    EXPECT_LT(TARNWELL_BUSY, 0);
 }

@@ -48,6 +48,35 @@ TEST_F(Guard, displaysWhatIsNoException)
     EXPECT_EQ(m_shown, QStringList{u"未知错误。"_s});
 }
 
+TEST_F(Guard, saysWhatTheClerkWasDoing)
+{
+    EXPECT_FALSE(toolkit::guarded(u"载入窗口"_s, [] { throw std::runtime_error("查询失败：表不存在"); }));
+    QPushButton button;
+    toolkit::connectGuarded(&button, &QPushButton::clicked, &button, u"100%1保存"_s,
+                            [] { throw std::runtime_error("%2"); });
+    button.click();
+    EXPECT_EQ(m_shown, (QStringList{u"载入窗口时出错：\n查询失败：表不存在"_s, u"100%1保存时出错：\n%2"_s}));
+}
+
+TEST_F(Guard, knowsOfHandlersAtWork)
+{
+    EXPECT_FALSE(toolkit::HandlerAtWork::any());
+    toolkit::guarded([] {
+        toolkit::guarded(u"保存"_s, [] { EXPECT_TRUE(toolkit::HandlerAtWork::any()); });
+        EXPECT_TRUE(toolkit::HandlerAtWork::any()) << "the outer one still is";
+        throw 42;
+    });
+    EXPECT_FALSE(toolkit::HandlerAtWork::any());
+}
+
+TEST_F(Guard, countsAsAtWorkWhileItsErrorIsShown)
+{
+    bool atWork = false;
+    automation::setErrorDisplay([&atWork](const QString &) { atWork = toolkit::HandlerAtWork::any(); });
+    toolkit::guarded([] { throw std::runtime_error("失败"); });
+    EXPECT_TRUE(atWork);
+}
+
 TEST_F(Guard, passesTheSignalsArguments)
 {
     QPushButton button;

@@ -3,6 +3,7 @@
 #include "vortaq/app/mainwindow.h"
 
 #include "vortaq/app/menucaption.h"
+#include "vortaq/app/menukeys.h"
 #include "vortaq/app/modulelibrary.h"
 #include "vortaq/app/naming.h"
 #include "vortaq/app/session.h"
@@ -68,6 +69,7 @@ MainWindow::MainWindow(std::shared_ptr<Session> session, ModuleLibrary &module, 
     setCentralWidget(m_pages);
     connect(m_startPage, &StartPage::functionWanted, this, &MainWindow::openFunction);
     buildMenus();
+    new MenuKeys(*this);
     buildStatusBar(database);
     updateState();
     resize(1200, 760);
@@ -139,8 +141,9 @@ void MainWindow::openFunction()
 
 void MainWindow::closeFunction()
 {
-    showStartPage();
     guarded([this] { m_module.freeForm(); });
+    if (m_module.form() == nullptr) // a module that is busy keeps it
+        showStartPage();
     updateState();
 }
 

@@ -19,6 +19,8 @@ void checkStatus(std::int32_t status, const QString &entry)
 {
     if (status == TARNWELL_OK)
         return;
+    if (status == TARNWELL_BUSY)
+        throw std::runtime_error("功能中还有打开的窗口或者没有完成的操作，请先完成或者关闭，再试一次。");
     const QString code = QString::number(static_cast<std::uint32_t>(status), 16).toUpper();
     throw std::runtime_error(QStringLiteral("模块的 %1 失败，错误码 0x%2。").arg(entry, code).toStdString());
 }
@@ -46,7 +48,8 @@ ModuleLibrary::~ModuleLibrary()
 {
     if (m_form) {
         void *form = m_form;
-        m_free(&form);
+        if (m_free(&form) == TARNWELL_BUSY)
+            return; // its code is still running
     }
     m_library.unload();
 }

@@ -12,7 +12,8 @@
 
 namespace vortaq {
 
-/// Frees its form and unloads the library when it goes; the application object must still exist then.
+/// Frees its form and unloads the library when it goes; the application object must still exist then. A module that is
+/// busy keeps both.
 class ModuleLibrary {
 public:
     /// Loads the library. Throws StartupError when the file is missing, lacks an entry point or describes itself
@@ -28,6 +29,7 @@ public:
 
     /// Makes the form when there is none. Throws std::runtime_error with the module's status when that fails.
     QWidget &createForm();
+    /// Throws std::runtime_error when the module keeps the form: something of it is still open, or its status tells.
     void freeForm();
     void refresh();
 

@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -150,6 +151,50 @@ TEST_F(MainWindowTest, ClosingByTheMenuFreesTheForm)
     trigger("openFunctionAction");
     ASSERT_TRUE(m_module.form());
     EXPECT_EQ(m_module.form()->property("shown").toInt(), 1);
+}
+
+TEST_F(MainWindowTest, AModuleThatIsBusyKeepsItsForm)
+{
+    trigger("openFunctionAction");
+    const QPointer<QWidget> form = m_module.form();
+    form->setProperty("busy", true);
+    trigger("closeFunctionAction");
+    EXPECT_EQ(m_errors,
+              QStringList(QStringLiteral("功能中还有打开的窗口或者没有完成的操作，请先完成或者关闭，"
+                                         "再试一次。")));
+    ASSERT_FALSE(form.isNull());
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(startPageShown());
+    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("制单 - 农合医院业务平台"));
+
+    form->setProperty("busy", false);
+    trigger("closeFunctionAction");
+    EXPECT_TRUE(form.isNull());
+    EXPECT_TRUE(startPageShown());
+}
+
+TEST_F(MainWindowTest, F10OpensTheMenuBar)
+{
+    trigger("openFunctionAction");
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_F10);
+    QWidget *menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->objectName(), QStringLiteral("categoryMenu"));
+    QTest::keyClick(menu, Qt::Key_Escape);
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_F10, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(MainWindowTest, ShiftF10OpensTheContextMenuOfWhatHasTheFocus)
+{
+    trigger("openFunctionAction");
+    QPushButton &button = *m_module.form()->findChild<QPushButton *>(QStringLiteral("btnExit"));
+    button.setContextMenuPolicy(Qt::CustomContextMenu);
+    int requests = 0;
+    QObject::connect(&button, &QWidget::customContextMenuRequested, &m_window, [&requests] { ++requests; });
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(requests, 1);
 }
 
 TEST_F(MainWindowTest, MinimisingAndClosingTheWindowLeaveTheFormOpen)

@@ -51,6 +51,26 @@ TEST(ModuleLibrary, FreesAFormThatIsLeftOver)
     EXPECT_TRUE(form.isNull());
 }
 
+TEST(ModuleLibrary, AFormThatIsBusyStaysWithItsLibrary)
+{
+    QPointer<QWidget> form;
+    {
+        ModuleLibrary module(QStringLiteral(TEST_PLAIN_MODULE));
+        form = &module.createForm();
+        form->setProperty("busy", true);
+        EXPECT_THROW(module.freeForm(), std::runtime_error);
+        EXPECT_EQ(module.form(), form);
+    }
+    ASSERT_FALSE(form.isNull());
+    EXPECT_FALSE(form->isVisible()) << "its code is still there";
+    form->setProperty("busy", false);
+    void *freed = form;
+    QLibrary library(QStringLiteral(TEST_PLAIN_MODULE)); // the same, still loaded
+    ASSERT_TRUE(library.isLoaded());
+    EXPECT_EQ(reinterpret_cast<TarnwellFreeModule>(library.resolve("FreeModule"))(&freed), TARNWELL_OK);
+    EXPECT_TRUE(library.unload());
+}
+
 TEST(ModuleLibrary, AMissingFileIsNamed)
 {
     const QTemporaryDir folder;

@@ -48,6 +48,8 @@ int32_t CreateModule(void **form, intptr_t, intptr_t, intptr_t, intptr_t, intptr
 
 int32_t FreeModule(void **form)
 {
+    if (static_cast<QWidget *>(*form)->property("busy").toBool())
+        return TARNWELL_BUSY;
     const std::unique_ptr<QWidget> owned(static_cast<QWidget *>(*form));
     return TARNWELL_OK;
 }

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// The menus of the main window by keyboard.
+#pragma once
+
+#include <QObject>
+
+class QMainWindow;
+
+namespace vortaq {
+
+/// Takes the keys that nothing in the window wanted: F10 opens the menu bar, which leaves the letters with Alt to the
+/// module's buttons, and Shift+F10 the context menu of what has the focus, as the menu key does.
+class MenuKeys : public QObject {
+    Q_OBJECT
+
+public:
+    /// Becomes a child of the window.
+    explicit MenuKeys(QMainWindow &window);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QMainWindow &m_window;
+};
+
+} // namespace vortaq
