@@ -14,6 +14,7 @@
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
+#include "toolkit/keycheck.h"
 #include "toolkit/readabletext.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
@@ -44,10 +45,10 @@ TfrmAddBill::TfrmAddBill(data::BillKey bill, QWidget *parent)
     toolkit::keepReadable(*m_ui->edtUpNum);
 
     using toolkit::connectGuarded;
-    connectGuarded(m_ui->dxTLUp, &TdxTreeList::toggleClick, this,
+    connectGuarded(m_ui->dxTLUp, &TdxTreeList::toggleClick, this, QStringLiteral("勾选记录"),
                    [this](TdxTreeListColumn *, const QString &newState) { dxTLUpCheckToggleClick(newState); });
-    connectGuarded(m_ui->btnSave, &QPushButton::clicked, this, [this] { btnSaveClick(); });
-    connectGuarded(m_ui->btnCancel, &QPushButton::clicked, this, [this] { close(); });
+    connectGuarded(m_ui->btnSave, &QPushButton::clicked, this, QStringLiteral("添加制单"), [this] { btnSaveClick(); });
+    connectGuarded(m_ui->btnCancel, &QPushButton::clicked, this, QStringLiteral("关闭窗口"), [this] { close(); });
 }
 
 TfrmAddBill::~TfrmAddBill() = default;
@@ -116,6 +117,10 @@ void TfrmAddBill::btnSaveClick()
     const std::vector<data::RecordKey> records = toolkit::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
     if (records.empty()) {
         host.FuncStorage.Alert(QStringLiteral("没有要制单的记录，请打勾选择！"));
+        return;
+    }
+    if (const QString refusal = toolkit::refusalOfTicked(*m_ui->dxTLUp, m_checkColumn); !refusal.isEmpty()) {
+        host.FuncStorage.Alert(refusal);
         return;
     }
     host::runChange(host, QStringLiteral("添加制单失败！"), host::FailingBegin::IsAlerted, [&] {

@@ -31,6 +31,12 @@ int neededWidth(const TdxTreeList &grid)
 
 } // namespace
 
+namespace {
+
+const QString Doing = QStringLiteral("筛选费用项目");
+
+} // namespace
+
 FeeDetailDialog::FeeDetailDialog(QWidget *parent)
     : QDialog(parent)
     , CDSFeeType(new TClientDataSet(this))
@@ -48,7 +54,7 @@ void FeeDetailDialog::takeGrids(QSplitter &splitter, TdxTreeList &feeTypes, TdxT
     m_feeItems = &feeItems;
     m_feeTypes->setColumns(feeTypeColumns());
     m_feeTypes->setCustomDrawCell(toolkit::billListDrawing());
-    toolkit::connectGuarded(m_feeTypes, &TdxTreeList::changeNode, this, [this] {
+    toolkit::connectGuarded(m_feeTypes, &TdxTreeList::changeNode, this, Doing, [this] {
         if (m_localChoice->isChecked())
             fillFeeItems();
     });
@@ -56,7 +62,7 @@ void FeeDetailDialog::takeGrids(QSplitter &splitter, TdxTreeList &feeTypes, TdxT
 
 void FeeDetailDialog::takeChoice(QRadioButton &choice)
 {
-    toolkit::connectGuarded(&choice, &QRadioButton::toggled, this, [this](bool taken) {
+    toolkit::connectGuarded(&choice, &QRadioButton::toggled, this, Doing, [this](bool taken) {
         if (taken)
             fillFeeItems();
     });

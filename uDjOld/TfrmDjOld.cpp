@@ -59,7 +59,7 @@ TfrmDjOld::TfrmDjOld(HistoryRecord record, QWidget *parent)
     takeLocalChoice(*m_ui->rbLocal);
     takeChoice(*m_ui->rbPass);
     takeChoice(*m_ui->rbUPass);
-    toolkit::connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, [this] { close(); });
+    toolkit::connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, QStringLiteral("退出"), [this] { close(); });
 }
 
 TfrmDjOld::~TfrmDjOld() = default;

@@ -59,8 +59,8 @@ void BillChanges::report(const data::BillKey &bill)
         letTheHintShow();
         reloadOwnTree();
         m_workbench.reload.history();
-    } catch (const std::exception &error) {
-        user.Alert(QStringLiteral("上报制单失败！\r\n") + automation::messageOf(error));
+    } catch (...) {
+        user.Alert(QStringLiteral("上报制单失败！\r\n") + automation::messageOfCurrent());
     }
 }
 

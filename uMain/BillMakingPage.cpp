@@ -11,6 +11,7 @@
 #include "toolkit/dateformat.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
+#include "toolkit/keycheck.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
 #include "uDjDetail/TfrmDjDetail.h"
@@ -37,8 +38,9 @@ BillMakingPage::BillMakingPage(Workbench &workbench, TClientDataSet &scratch, QW
     m_ui->dxTLUp->setColumns(candidateColumns());
     m_ui->dxTLUp->setFixedBand(CandidateFixedBand);
     m_checkColumn = toolkit::columnPosition(*m_ui->dxTLUp, "Check");
-    m_ui->dxTLUp->setPopupMenu(
-        createMenu(this, "pMUp", {{"mCheck", "全部选定"}, {"mUnCheck", "全部取消"}, {"mFeeInfo", "查看费用信息"}}));
+    m_ui->dxTLUp->setPopupMenu(createMenu(
+        this, *m_ui->dxTLUp, "pMUp", {{"mCheck", "全部选定"}, {"mUnCheck", "全部取消"}, {"mFeeInfo", "查看费用信息"}}));
+    setFocusProxy(m_ui->dxTLUp);
     connectHandlers();
     m_workbench.reload.candidates = [this] { LoadUpCandidates(); };
 }
@@ -48,26 +50,29 @@ BillMakingPage::~BillMakingPage() = default;
 void BillMakingPage::connectHandlers()
 {
     using toolkit::connectGuarded;
-    connectGuarded(m_ui->dxTLUp, &TdxTreeList::toggleClick, this,
+    connectGuarded(m_ui->dxTLUp, &TdxTreeList::toggleClick, this, QStringLiteral("勾选记录"),
                    [this](TdxTreeListColumn *, const QString &newState) { dxTLUpCheckToggleClick(newState); });
     connectGuarded(findChild<QAction *>(QStringLiteral("mCheck")), &QAction::triggered, this,
-                   [this] { SetAllChecked(m_checkColumn, true); });
+                   QStringLiteral("全部选定"), [this] { SetAllChecked(m_checkColumn, true); });
     connectGuarded(findChild<QAction *>(QStringLiteral("mUnCheck")), &QAction::triggered, this,
-                   [this] { SetAllChecked(m_checkColumn, false); });
-    connectGuarded(m_ui->edtOrgCode, &CodeSearchEdit::keyDown, this, [this](int key) { edtOrgCodeKeyDown(key); });
-    connectGuarded(m_ui->btnSave, &QPushButton::clicked, this, [this] { btnSaveClick(); });
-    connectGuarded(m_ui->btnBack, &QPushButton::clicked, this, [this] { btnBackClick(); });
-    connectGuarded(m_ui->dxTLUp, &TdxTreeList::dblClick, this, [this] { showFeeDetail(*m_ui->dxTLUp); });
-    connectGuarded(findChild<QAction *>(QStringLiteral("mFeeInfo")), &QAction::triggered, this,
+                   QStringLiteral("全部取消"), [this] { SetAllChecked(m_checkColumn, false); });
+    connectGuarded(m_ui->edtOrgCode, &CodeSearchEdit::keyDown, this, QStringLiteral("代码查询"),
+                   [this](int key) { edtOrgCodeKeyDown(key); });
+    connectGuarded(m_ui->btnSave, &QPushButton::clicked, this, QStringLiteral("保存制单"), [this] { btnSaveClick(); });
+    connectGuarded(m_ui->btnBack, &QPushButton::clicked, this, QStringLiteral("退单"), [this] { btnBackClick(); });
+    connectGuarded(m_ui->dxTLUp, &TdxTreeList::dblClick, this, QStringLiteral("查看费用信息"),
                    [this] { showFeeDetail(*m_ui->dxTLUp); });
+    connectGuarded(findChild<QAction *>(QStringLiteral("mFeeInfo")), &QAction::triggered, this,
+                   QStringLiteral("查看费用信息"), [this] { showFeeDetail(*m_ui->dxTLUp); });
     constexpr int currentTables = 1;
-    connectGuarded(m_ui->btnOutFee, &QPushButton::clicked, this,
+    connectGuarded(m_ui->btnOutFee, &QPushButton::clicked, this, QStringLiteral("打印出院结算单"),
                    [this] { m_workbench.print.settlementSheet(*m_ui->dxTLUp, currentTables); });
-    connectGuarded(m_ui->btnFeeGs, &QPushButton::clicked, this,
+    connectGuarded(m_ui->btnFeeGs, &QPushButton::clicked, this, QStringLiteral("打印医药费补偿审批表"),
                    [this] { m_workbench.print.approvalForm(*m_ui->dxTLUp, currentTables); });
-    connectGuarded(m_ui->btnFeeInfo, &QPushButton::clicked, this,
+    connectGuarded(m_ui->btnFeeInfo, &QPushButton::clicked, this, QStringLiteral("打印费用清单"),
                    [this] { m_workbench.print.feeList(*m_ui->dxTLUp, currentTables); });
-    connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, [this] { Q_EMIT exitRequested(); });
+    connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, QStringLiteral("退出"),
+                   [this] { Q_EMIT exitRequested(); });
 }
 
 void BillMakingPage::start()
@@ -153,6 +158,14 @@ bool BillMakingPage::headerIsComplete()
     return true;
 }
 
+bool BillMakingPage::keysAreRefused()
+{
+    const QString refusal = toolkit::refusalOfTicked(*m_ui->dxTLUp, m_checkColumn);
+    if (!refusal.isEmpty())
+        m_workbench.host().FuncStorage.Alert(refusal);
+    return !refusal.isEmpty();
+}
+
 void BillMakingPage::btnSaveClick()
 {
     if (m_ui->dxTLUp->count() == 0)
@@ -162,7 +175,7 @@ void BillMakingPage::btnSaveClick()
         m_workbench.host().FuncStorage.Alert(QStringLiteral("没有要制单的记录，请打勾选择！"));
         return;
     }
-    if (!headerIsComplete())
+    if (!headerIsComplete() || keysAreRefused())
         return;
 
     const QString writeDate = m_ui->dxDEWirte->text();
@@ -187,6 +200,6 @@ void BillMakingPage::btnBackClick()
     const std::vector<data::RecordKey> records = toolkit::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
     if (records.empty())
         m_workbench.host().FuncStorage.Alert(QStringLiteral("没有要退单的记录，请打勾选择！"));
-    else
+    else if (!keysAreRefused())
         returnRecords(m_workbench, records, this);
 }

@@ -40,6 +40,7 @@ private:
     void btnSaveClick();
     void btnBackClick();
     [[nodiscard]] bool headerIsComplete();
+    [[nodiscard]] bool keysAreRefused();
 
     std::unique_ptr<Ui::BillMakingPage> m_ui;
     Workbench &m_workbench;

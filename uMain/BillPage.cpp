@@ -6,6 +6,7 @@
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
+#include "toolkit/keycheck.h"
 #include "toolkit/messageboxes.h"
 #include "toolkit/readabletext.h"
 #include "toolkit/recordcolumns.h"
@@ -13,6 +14,7 @@
 #include "uAddBill/TfrmAddBill.h"
 #include "uDjDetail/TfrmDjDetail.h"
 #include "uMain/BillChanges.h"
+#include "uMain/BillNotes.h"
 #include "uMain/billtrees.h"
 #include "uMain/columns.h"
 #include "uMain/menus.h"
@@ -22,9 +24,35 @@
 
 namespace {
 
-bool confirmed(QWidget *window, const QString &question)
+const QString Title = QStringLiteral("确认");
+
+bool lossConfirmed(QWidget *window, const QString &question)
 {
-    return toolkit::messageBoxes().ask(window, QStringLiteral("确认"), question);
+    return toolkit::messageBoxes().askBeforeLoss(window, Title, question);
+}
+
+/// The records that follow a row and go before it, the nearest first.
+std::vector<data::RecordKey> neighbours(const TdxTreeList &grid, const TdxTreeListNode &row)
+{
+    const toolkit::RecordColumns columns(grid);
+    std::vector<data::RecordKey> keys;
+    for (const int index : {row.index() + 1, row.index() - 1}) {
+        if (const TdxTreeListNode beside = grid.node(index))
+            keys.push_back(columns.key(beside));
+    }
+    return keys;
+}
+
+/// Focuses the first of the records that is listed.
+void focusFirstOf(TdxTreeList &grid, const std::vector<data::RecordKey> &records)
+{
+    const toolkit::RecordColumns columns(grid);
+    for (const data::RecordKey &record : records) {
+        for (int i = 0; i < grid.count(); ++i) {
+            if (columns.key(grid.node(i)) == record)
+                return grid.setFocusedNode(grid.node(i));
+        }
+    }
 }
 
 } // namespace
@@ -38,11 +66,14 @@ BillPage::BillPage(Workbench &workbench, TClientDataSet &scratch, const BillPage
     , m_rows(new TClientDataSet(this))
 {
     m_ui->setupUi(this);
+    m_notes = new BillNotes(*m_ui->tree, *this, *m_ui->totalFee,
+                            {{"总费用", billnode::NotedFee}, {"可报销费用", billnode::NotedCanFreeFee}});
     applyNames();
     setUpBillTree(*m_ui->tree, m_kind.treeColumn);
     setUpGrid();
     setUpMenu();
     toolkit::keepReadable(*m_ui->count);
+    setFocusProxy(m_ui->tree);
     m_ui->splitter->setStretchFactor(1, 1);
     connectHandlers();
     m_workbench.reload.*m_kind.ownTree = [this] { loadBillTree(); };
@@ -89,7 +120,7 @@ void BillPage::setUpGrid()
 
 void BillPage::setUpMenu()
 {
-    m_billMenu = createMenu(this, m_kind.menu,
+    m_billMenu = createMenu(this, *m_ui->tree, m_kind.menu,
                             {{m_kind.reportItem, "整批上报制单", m_kind.reportTag},
                              {m_kind.cancelItem, "整批取消制单", m_kind.cancelTag},
                              {m_kind.uploadItem, "整批数据上传"}});
@@ -99,14 +130,19 @@ void BillPage::connectHandlers()
 {
     using toolkit::connectGuarded;
     const auto item = [this](const char *name) { return findChild<QAction *>(QString::fromUtf8(name)); };
-    connectGuarded(m_ui->tree, &TdxTreeList::changeNode, this,
+    connectGuarded(m_ui->tree, &TdxTreeList::changeNode, this, QStringLiteral("载入制单记录"),
                    [this](const TdxTreeListNode &node) { changeNode(node); });
-    connectGuarded(m_ui->grid, &TdxTreeList::dblClick, this, [this] { showFeeDetail(*m_ui->grid); });
-    connectGuarded(item(m_kind.reportItem), &QAction::triggered, this, [this] { reportBill(); });
-    connectGuarded(item(m_kind.cancelItem), &QAction::triggered, this, [this] { cancelBill(); });
-    connectGuarded(m_ui->cancelButton, &QPushButton::clicked, this, [this] { cancelRecord(); });
-    connectGuarded(m_ui->addButton, &QPushButton::clicked, this, [this] { addRecords(); });
-    connectGuarded(m_ui->exitButton, &QPushButton::clicked, this, [this] { Q_EMIT exitRequested(); });
+    connectGuarded(m_ui->grid, &TdxTreeList::dblClick, this, QStringLiteral("查看费用信息"),
+                   [this] { showFeeDetail(*m_ui->grid); });
+    connectGuarded(item(m_kind.reportItem), &QAction::triggered, this, QStringLiteral("整批上报制单"),
+                   [this] { reportBill(); });
+    connectGuarded(item(m_kind.cancelItem), &QAction::triggered, this, QStringLiteral("整批取消制单"),
+                   [this] { cancelBill(); });
+    connectGuarded(m_ui->cancelButton, &QPushButton::clicked, this, QStringLiteral("单笔取消制单"),
+                   [this] { cancelRecord(); });
+    connectGuarded(m_ui->addButton, &QPushButton::clicked, this, QStringLiteral("添加单据"), [this] { addRecords(); });
+    connectGuarded(m_ui->exitButton, &QPushButton::clicked, this, QStringLiteral("退出"),
+                   [this] { Q_EMIT exitRequested(); });
 }
 
 void BillPage::start()
@@ -121,11 +157,18 @@ void BillPage::start()
     ApplyMoneyFormat(*m_ui->grid);
 }
 
+const TdxTreeList &BillPage::tree() const
+{
+    return *m_ui->tree;
+}
+
 void BillPage::loadBillTree()
 {
     m_workbench.LoadDataSet(data::billsOfPage(m_kind.spelling, m_workbench.session.OrgCode), *m_rows);
     rebuildBillTree(*m_ui->tree, *m_rows, [this](TdxTreeListNode &bill) {
         bill.setValue(billnode::Text, m_rows->text(QStringLiteral("WriteDate")));
+        bill.setValue(billnode::NotedFee, m_rows->text(QStringLiteral("Fee")));
+        bill.setValue(billnode::NotedCanFreeFee, m_rows->text(QStringLiteral("CanFreeFee")));
         if (!m_kind.billsCarryFees)
             return;
         bill.setValue(billnode::Fee, m_rows->number(QStringLiteral("Fee")));
@@ -136,6 +179,7 @@ void BillPage::loadBillTree()
 
 void BillPage::changeNode(const TdxTreeListNode &node)
 {
+    m_notes->setChosen({});
     m_ui->count->clear();
     m_ui->totalFee->setValue(0);
     m_ui->canFreeFee->setValue(0);
@@ -166,20 +210,26 @@ void BillPage::loadRecords(const TdxTreeListNode &bill)
     m_ui->count->setText(QString::number(m_ui->grid->count()));
     m_ui->totalFee->setValue(totalFee);
     m_ui->canFreeFee->setValue(canFreeFee);
+    bill.setValue(billnode::Records, m_ui->grid->count());
+    bill.setValue(billnode::NotedFee, totalFee);
+    bill.setValue(billnode::NotedCanFreeFee, canFreeFee);
+    m_notes->setChosen(bill);
 }
 
 void BillPage::reportBill()
 {
-    if (!confirmed(this, QStringLiteral("您确认上报此笔制单记录吗？")))
+    if (!toolkit::messageBoxes().ask(this, Title, QStringLiteral("您确认上报此笔制单记录吗？")))
         return;
-    const TdxTreeListNode bill = m_ui->tree->focusedNode();
+    // The bill is that of the page in front, whichever page's menu was used; the menu's page is reloaded.
+    const TdxTreeList *tree = m_workbench.activeBillTree();
+    const TdxTreeListNode bill = tree != nullptr ? tree->focusedNode() : TdxTreeListNode();
     if (isBillNode(bill))
         BillChanges(m_workbench, m_scratch, m_kind, this).report(billKeyOf(bill));
 }
 
 void BillPage::cancelBill()
 {
-    if (!confirmed(this, QStringLiteral("您确认取消此笔制单记录吗？")))
+    if (!lossConfirmed(this, QStringLiteral("您确认取消此笔制单记录吗？")))
         return;
     const TdxTreeListNode bill = m_ui->tree->focusedNode();
     if (isBillNode(bill))
@@ -188,7 +238,7 @@ void BillPage::cancelBill()
 
 void BillPage::cancelRecord()
 {
-    if (!confirmed(this, QString::fromUtf8(m_kind.cancelRecordQuestion)))
+    if (keyIsRefused() || !lossConfirmed(this, QString::fromUtf8(m_kind.cancelRecordQuestion)))
         return;
     const bool isLastRecord = m_rows->recordCount() == 1;
     const TdxTreeListNode bill = m_ui->tree->focusedNode();
@@ -197,7 +247,19 @@ void BillPage::cancelRecord()
         return;
     BillChanges(m_workbench, m_scratch, m_kind, this)
         .takeOut(billKeyOf(bill), toolkit::RecordColumns(*m_ui->grid).key(row), isLastRecord,
-                 [this] { changeNode(m_ui->tree->focusedNode()); });
+                 [this, beside = neighbours(*m_ui->grid, row)] {
+                     changeNode(m_ui->tree->focusedNode());
+                     focusFirstOf(*m_ui->grid, beside);
+                 });
+}
+
+bool BillPage::keyIsRefused()
+{
+    const TdxTreeListNode row = m_ui->grid->focusedNode();
+    const QString refusal = row ? toolkit::refusalOf(*m_ui->grid, row) : QString();
+    if (!refusal.isEmpty())
+        m_workbench.host().FuncStorage.Alert(refusal);
+    return !refusal.isEmpty();
 }
 
 void BillPage::addRecords()

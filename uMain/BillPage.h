@@ -10,8 +10,10 @@
 #include <string>
 #include <vector>
 
+class BillNotes;
 class QMenu;
 class TClientDataSet;
+class TdxTreeList;
 class TdxTreeListNode;
 class Workbench;
 
@@ -34,6 +36,8 @@ public:
     /// Rebuilds the tree; the grid and the totals are empty afterwards.
     void loadBillTree();
 
+    [[nodiscard]] const TdxTreeList &tree() const;
+
 Q_SIGNALS:
     void exitRequested();
 
@@ -48,6 +52,7 @@ private:
     void reportBill();
     void cancelBill();
     void cancelRecord();
+    [[nodiscard]] bool keyIsRefused();
     void addRecords();
 
     std::unique_ptr<Ui::BillPage> m_ui;
@@ -56,5 +61,6 @@ private:
     const BillPageKind &m_kind;
     std::vector<std::string> m_columnNames; // what the columns' definitions point to
     TClientDataSet *m_rows; // the bills while the tree is built, then the records of the chosen bill
+    BillNotes *m_notes = nullptr;
     QMenu *m_billMenu = nullptr;
 };

@@ -12,6 +12,7 @@
 #include "toolkit/recordcolumns.h"
 #include "toolkit/rowdrawing.h"
 #include "uDjOld/TfrmDjOld.h"
+#include "uMain/BillNotes.h"
 #include "uMain/billtrees.h"
 #include "uMain/columns.h"
 #include "uMain/menus.h"
@@ -35,11 +36,19 @@ HistoryPage::HistoryPage(Workbench &workbench, QWidget *parent)
     m_ui->dxTLOldBill->setColumns(historyColumns());
     m_ui->dxTLOldBill->setFixedBand(BillFixedBand);
     m_ui->splitterOld->setStretchFactor(1, 1);
-    m_ui->dxTLOldBill->setPopupMenu(createMenu(
-        this, "pMPrint", {{"mJxP", "补打出院结算表"}, {"mCheckP", "补打审批表"}, {"mFeeDetail", "补打费用清单"}}));
-    toolkit::connectGuarded(m_ui->dxTLOldOrg, &TdxTreeList::changeNode, this,
+    m_ui->dxTLOldBill->setPopupMenu(
+        createMenu(this, *m_ui->dxTLOldBill, "pMPrint",
+                   {{"mJxP", "补打出院结算表"}, {"mCheckP", "补打审批表"}, {"mFeeDetail", "补打费用清单"}}));
+    m_notes = new BillNotes(*m_ui->dxTLOldOrg, *this, *m_ui->dxCEOldTotal,
+                            {{"总费用", billnode::Fee},
+                             {"可报销费用", billnode::CanFreeFee},
+                             {"一审费用", billnode::CheckFee1},
+                             {"二审费用", billnode::CheckFee}});
+    setFocusProxy(m_ui->dxTLOldOrg);
+    toolkit::connectGuarded(m_ui->dxTLOldOrg, &TdxTreeList::changeNode, this, QStringLiteral("载入制单记录"),
                             [this](const TdxTreeListNode &node) { dxTLOldOrgChangeNode(node); });
-    toolkit::connectGuarded(m_ui->dxTLOldBill, &TdxTreeList::dblClick, this, [this] { dxTLOldBillDblClick(); });
+    toolkit::connectGuarded(m_ui->dxTLOldBill, &TdxTreeList::dblClick, this, QStringLiteral("查看历史明细"),
+                            [this] { dxTLOldBillDblClick(); });
     connectReprint("mJxP", m_workbench.print.settlementSheet);
     connectReprint("mCheckP", m_workbench.print.approvalForm);
     connectReprint("mFeeDetail", m_workbench.print.feeList);
@@ -50,18 +59,20 @@ HistoryPage::~HistoryPage() = default;
 
 void HistoryPage::connectReprint(const char *item, const std::function<void(const TdxTreeList &, int)> &document)
 {
-    toolkit::connectGuarded(
-        findChild<QAction *>(QString::fromUtf8(item)), &QAction::triggered, this, [this, &document] {
-            document(*m_ui->dxTLOldBill, toolkit::parseInteger(m_ui->dxTLOldOrg->focusedNode().text(billnode::Type)));
-        });
+    const auto *action = findChild<QAction *>(QString::fromUtf8(item));
+    toolkit::connectGuarded(action, &QAction::triggered, this, action->text(), [this, &document] {
+        document(*m_ui->dxTLOldBill, toolkit::parseInteger(m_ui->dxTLOldOrg->focusedNode().text(billnode::Type)));
+    });
 }
 
 void HistoryPage::LoadOldBills()
 {
-    host::FuncStorageProxy &parameters = m_workbench.host().FuncStorage;
-    const auto orgCode = [&] { return parameters.CustomParam(host::parameter::OrgCode).toString(); };
-    (void)orgCode(); // asked once for each half of the statement
-    m_workbench.LoadDataSet(data::historyBills(orgCode()), *CDSOld);
+    const auto readOrgCode = [this] {
+        return m_workbench.host().FuncStorage.CustomParam(host::parameter::OrgCode).toString();
+    };
+    const QString ofBillsInUse = readOrgCode();
+    const QString ofArchivedBills = readOrgCode();
+    m_workbench.LoadDataSet(data::historyBills(ofBillsInUse, ofArchivedBills), *CDSOld);
     rebuildBillTree(*m_ui->dxTLOldOrg, *CDSOld, [this](TdxTreeListNode &bill) {
         bill.setValue(
             billnode::Text,
@@ -73,6 +84,7 @@ void HistoryPage::LoadOldBills()
 void HistoryPage::dxTLOldOrgChangeNode(const TdxTreeListNode &node)
 {
     TdxTreeList &grid = *m_ui->dxTLOldBill;
+    m_notes->setChosen({});
     m_ui->edtOldNum->clear();
     for (TdxCurrencyEdit *edit : {m_ui->dxCEOldTotal, m_ui->dxCEOldCan, m_ui->dxCEOldOne, m_ui->dxCEOldTwo})
         edit->setValue(0);
@@ -92,6 +104,8 @@ void HistoryPage::dxTLOldOrgChangeNode(const TdxTreeListNode &node)
     m_ui->dxCEOldCan->setValue(node.text(billnode::CanFreeFee));
     m_ui->dxCEOldOne->setValue(node.text(billnode::CheckFee1));
     m_ui->dxCEOldTwo->setValue(node.text(billnode::CheckFee));
+    node.setValue(billnode::Records, grid.count());
+    m_notes->setChosen(node);
 }
 
 void HistoryPage::dxTLOldBillDblClick()

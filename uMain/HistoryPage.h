@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+class BillNotes;
 class TClientDataSet;
 class TdxTreeList;
 class TdxTreeListNode;
@@ -39,4 +40,5 @@ private:
     std::unique_ptr<Ui::HistoryPage> m_ui;
     Workbench &m_workbench;
     TClientDataSet *CDSOld;
+    BillNotes *m_notes = nullptr;
 };

@@ -8,7 +8,8 @@
 
 void returnRecords(Workbench &workbench, const std::vector<data::RecordKey> &records, QWidget *window)
 {
-    if (!toolkit::messageBoxes().ask(window, QStringLiteral("确认"), QStringLiteral("您确认要退回所有打勾的记录吗？")))
+    if (!toolkit::messageBoxes().askBeforeLoss(window, QStringLiteral("确认"),
+                                               QStringLiteral("您确认要退回所有打勾的记录吗？")))
         return;
     host::runChange(workbench.host(), QStringLiteral("退单失败！"), host::FailingBegin::Propagates, [&] {
         for (const data::RecordKey &record : records) {

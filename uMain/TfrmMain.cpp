@@ -2,6 +2,7 @@
 #include "uMain/TfrmMain.h"
 
 #include "Common/TCtrlFunc.h"
+#include "Common/executablefolder.h"
 #include "data/statements/startup.h"
 #include "host/clientdataset.h"
 #include "host/parameters.h"
@@ -12,24 +13,48 @@
 #include "uMain/BillMakingPage.h"
 #include "uMain/BillPage.h"
 #include "uMain/HistoryPage.h"
+#include "uMain/PageControl.h"
 #include "uMain/UnbilledPage.h"
 #include "uMain/rights.h"
 #include "uPrint/TfrmPrint.h"
 
+#include <QFileInfo>
 #include <QShowEvent>
-#include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <stdexcept>
 
 namespace {
 
 constexpr int AreaPrefixLength = 6;
+
+const QString SetupFile = QStringLiteral("setup.ini");
+const QString SetupSection = QStringLiteral("system");
+const QString SetupKey = QStringLiteral("connStyle");
+
+/// What is wrong with the setup file, and what whoever looks after the program writes into it.
+QString setupFault(const QString &value)
+{
+    const QString file = common::executableFolder() + SetupFile;
+    QString fault;
+    if (!QFileInfo::exists(file))
+        fault = QStringLiteral("找不到设置文件“%1”。").arg(file);
+    else if (value.isEmpty())
+        fault = QStringLiteral("设置文件“%1”的 [%2] 一节里没有写 %3。").arg(file, SetupSection, SetupKey);
+    else
+        fault = QStringLiteral("设置文件“%1”的 [%2] 一节里，%3 写的是“%4”，不是整数。")
+                    .arg(file, SetupSection, SetupKey, value);
+    return fault
+        + QStringLiteral("\n请用文本编辑器在该文件中写上：\n[%1]\n%2=1\n（1：保存、上报前到数据库再核对；0：不核对。）")
+              .arg(SetupSection, SetupKey);
+}
 
 } // namespace
 
 TfrmMain::TfrmMain(QWidget *parent)
     : QWidget(parent)
     , CDSTmp(new TClientDataSet(this))
-    , PageControl1(new QTabWidget(this))
+    , PageControl1(new PageControl(this))
     , m_unbilled(new UnbilledPage(m_workbench))
     , m_billMaking(new BillMakingPage(m_workbench, *CDSTmp))
     , m_reported(new BillPage(m_workbench, *CDSTmp, ReportedBills))
@@ -50,6 +75,10 @@ TfrmMain::TfrmMain(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(PageControl1);
 
+    m_workbench.activeBillTree = [this] {
+        const auto *page = qobject_cast<const BillPage *>(PageControl1->currentWidget());
+        return page != nullptr ? &page->tree() : nullptr;
+    };
     connectPrinting();
     connect(m_billMaking, &BillMakingPage::exitRequested, this, &QWidget::close);
     connect(m_reported, &BillPage::exitRequested, this, &QWidget::close);
@@ -77,8 +106,10 @@ void TfrmMain::connectPrinting()
 void TfrmMain::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    if (!event->spontaneous())
-        toolkit::guarded([this] { FormShow(); });
+    if (event->spontaneous())
+        return;
+    PageControl1->focusPage();
+    toolkit::guarded(QStringLiteral("载入窗口"), [this] { FormShow(); });
 }
 
 void TfrmMain::FormShow()
@@ -98,10 +129,12 @@ void TfrmMain::FormShow()
 
 void TfrmMain::readConnStyle()
 {
-    TCtrlFunc functions;
-    const QString value =
-        functions.ReadIniStr(QStringLiteral("setup.ini"), QStringLiteral("system"), QStringLiteral("connStyle"));
-    m_workbench.session.connStyle = toolkit::parseInteger(value);
+    const QString value = TCtrlFunc().ReadIniStr(SetupFile, SetupSection, SetupKey);
+    try {
+        m_workbench.session.connStyle = toolkit::parseInteger(value);
+    } catch (const std::invalid_argument &) {
+        throw std::runtime_error(setupFault(value).toStdString());
+    }
 }
 
 void TfrmMain::readParameters()

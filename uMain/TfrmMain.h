@@ -9,7 +9,7 @@
 class BillMakingPage;
 class BillPage;
 class HistoryPage;
-class QTabWidget;
+class PageControl;
 class TClientDataSet;
 class UnbilledPage;
 
@@ -37,7 +37,7 @@ private:
 
     Workbench m_workbench;
     TClientDataSet *CDSTmp;
-    QTabWidget *PageControl1;
+    PageControl *PageControl1;
     UnbilledPage *m_unbilled;
     BillMakingPage *m_billMaking;
     BillPage *m_reported;

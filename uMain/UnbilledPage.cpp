@@ -53,10 +53,12 @@ UnbilledPage::UnbilledPage(Workbench &workbench, QWidget *parent)
     m_ui->dxTLBxDjDetail->columnByName(QStringLiteral("dxTLBxDjDetailID"))
         ->setCustomDrawCell(toolkit::rowNumberDrawing());
     m_ui->splitterDj->setStretchFactor(1, 1);
+    setFocusProxy(m_ui->dxTLBxDjDetail); // the first institution's patients are listed already
 
-    toolkit::connectGuarded(m_ui->dxTLDjOrgInfo, &TdxTreeList::changeNode, this,
+    toolkit::connectGuarded(m_ui->dxTLDjOrgInfo, &TdxTreeList::changeNode, this, QStringLiteral("载入病人记录"),
                             [this](const TdxTreeListNode &node) { dxTLDjOrgInfoChangeNode(node); });
-    toolkit::connectGuarded(m_ui->dxTLBxDjDetail, &TdxTreeList::dblClick, this, [this] { dxTLBxDjDetailDblClick(); });
+    toolkit::connectGuarded(m_ui->dxTLBxDjDetail, &TdxTreeList::dblClick, this, QStringLiteral("查看费用信息"),
+                            [this] { dxTLBxDjDetailDblClick(); });
     m_workbench.reload.unbilledTree = [this] { loadInstitutionTree(); };
 }
 

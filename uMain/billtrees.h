@@ -25,6 +25,10 @@ inline constexpr int CheckFee1 = 6;
 inline constexpr int CheckFee = 7;
 inline constexpr int Type = 8; ///< 1 tables in use, 2 archive
 inline constexpr int CheckStatus = 9;
+// For notes on a bill, see uMain/BillNotes.h.
+inline constexpr int Records = 10; ///< once they have been listed
+inline constexpr int NotedFee = 11;
+inline constexpr int NotedCanFreeFee = 12;
 } // namespace billnode
 
 /// A tree of bills with the column given. `fields`: what a bill node holds from billnode::Fee on.

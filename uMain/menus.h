@@ -6,6 +6,7 @@
 
 class QMenu;
 class QWidget;
+class TdxTreeList;
 
 struct MenuItem {
     const char *name; ///< component name
@@ -13,5 +14,8 @@ struct MenuItem {
     int tag = 0; ///< function number, see uMain/rights.h
 };
 
-/// A menu owned by `parent`; its items are actions found by component name.
-[[nodiscard]] QMenu *createMenu(QWidget *parent, const char *name, const std::vector<MenuItem> &items);
+/// A menu for the list to pop up, owned by `parent`; its items are actions found by component name. The captions leave
+/// no room for letters, so Ctrl with an item's place in the menu chooses it: in the open menu, and in the list for as
+/// long as it offers the menu. Shift+F10 in the list opens it as the menu key does.
+[[nodiscard]] QMenu *createMenu(QWidget *parent, TdxTreeList &list, const char *name,
+                                const std::vector<MenuItem> &items);

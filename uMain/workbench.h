@@ -28,6 +28,9 @@ public:
     };
     Reloads reload;
 
+    /// The tree of bills on the page in front; null when that page is not for reporting. Set by the form.
+    std::function<const TdxTreeList *()> activeBillTree;
+
     /// The printed documents of a grid's focused row (type 1 tables in use, 2 archive); set by the form.
     struct Documents {
         std::function<void(const TdxTreeList &grid, int billType)> settlementSheet;

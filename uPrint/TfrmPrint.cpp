@@ -47,8 +47,9 @@ TfrmPrint::TfrmPrint(FeeListStay stay, QWidget *parent)
     RMReport1->setDataSet(RMDBDataSetDetail);
     RMReport1->setHeaders({CDSMain});
     RMReport1->setOnGetValue([this](const QString &name, QVariant &value) { RMReport1GetValue(name, value); });
-    toolkit::connectGuarded(m_ui->btnPrint, &QPushButton::clicked, this, [this] { btnPrintClick(); });
-    toolkit::connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, [this] { close(); });
+    toolkit::connectGuarded(m_ui->btnPrint, &QPushButton::clicked, this, QStringLiteral("打印费用清单"),
+                            [this] { btnPrintClick(); });
+    toolkit::connectGuarded(m_ui->btnExit, &QPushButton::clicked, this, QStringLiteral("退出"), [this] { close(); });
 }
 
 TfrmPrint::~TfrmPrint() = default;

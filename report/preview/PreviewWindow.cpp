@@ -26,6 +26,15 @@ namespace {
 constexpr qint64 SliceMilliseconds = 15;
 constexpr qint64 Patience = 1000;
 
+// What the clerk is doing when something fails.
+const QString Printing = QStringLiteral("打印");
+const QString SavingPdf = QStringLiteral("保存 PDF ");
+const QString Exporting = QStringLiteral("导出表格");
+const QString TurningPages = QStringLiteral("翻页");
+const QString Zooming = QStringLiteral("缩放");
+const QString LayingOut = QStringLiteral("排版");
+const QString Closing = QStringLiteral("关闭窗口");
+
 struct ZoomLevel {
     Zoom zoom;
     int percent;
@@ -52,7 +61,7 @@ PreviewWindow::PreviewWindow(Document &document, QWidget *parent, Elapsed elapse
     m_ui->view->setDocument(&m_document);
     connectButtons();
     addShortcuts();
-    toolkit::connectGuarded(&m_timer, &QTimer::timeout, this, [this] { layOutSlice(); });
+    toolkit::connectGuarded(&m_timer, &QTimer::timeout, this, LayingOut, [this] { layOutSlice(); });
     showState();
     m_ui->view->setFocus();
 }
@@ -71,38 +80,41 @@ void PreviewWindow::run()
 
 void PreviewWindow::connectButtons()
 {
-    const auto onClick = [this](QPushButton *button, auto action) {
-        toolkit::connectGuarded(button, &QPushButton::clicked, this, action);
+    const auto onClick = [this](QPushButton *button, const QString &doing, auto action) {
+        toolkit::connectGuarded(button, &QPushButton::clicked, this, doing, action);
     };
-    onClick(m_ui->btnPrint, [this] { print(); });
-    onClick(m_ui->btnPdf, [this] { savePdf(); });
-    onClick(m_ui->btnSpreadsheet, [this] { exportSpreadsheet(); });
-    onClick(m_ui->btnFirst, [this] { showPage(0); });
-    onClick(m_ui->btnPrevious, [this] { turnPage(-1); });
-    onClick(m_ui->btnNext, [this] { turnPage(1); });
-    onClick(m_ui->btnLast, [this] { showPage(m_document.pageCount() - 1); });
-    onClick(m_ui->btnStopLayout, [this] { stopLayingOut(); });
-    onClick(m_ui->btnClose, [this] { accept(); });
-    toolkit::connectGuarded(m_ui->edtPage, &QSpinBox::valueChanged, this, [this](int page) { showPage(page - 1); });
-    toolkit::connectGuarded(m_ui->cbZoom, &QComboBox::currentIndexChanged, this,
+    onClick(m_ui->btnPrint, Printing, [this] { print(); });
+    onClick(m_ui->btnPdf, SavingPdf, [this] { savePdf(); });
+    onClick(m_ui->btnSpreadsheet, Exporting, [this] { exportSpreadsheet(); });
+    onClick(m_ui->btnFirst, TurningPages, [this] { showPage(0); });
+    onClick(m_ui->btnPrevious, TurningPages, [this] { turnPage(-1); });
+    onClick(m_ui->btnNext, TurningPages, [this] { turnPage(1); });
+    onClick(m_ui->btnLast, TurningPages, [this] { showPage(m_document.pageCount() - 1); });
+    onClick(m_ui->btnStopLayout, LayingOut, [this] { stopLayingOut(); });
+    onClick(m_ui->btnClose, Closing, [this] { accept(); });
+    toolkit::connectGuarded(m_ui->edtPage, &QSpinBox::valueChanged, this, TurningPages,
+                            [this](int page) { showPage(page - 1); });
+    toolkit::connectGuarded(m_ui->cbZoom, &QComboBox::currentIndexChanged, this, Zooming,
                             [this](int index) { chooseZoom(index); });
-    toolkit::connectGuarded(m_ui->view, &PageView::turnPage, this, [this](int direction) { turnPage(direction); });
-    toolkit::connectGuarded(m_ui->view, &PageView::zoomStep, this, [this](int direction) { stepZoom(direction); });
+    toolkit::connectGuarded(m_ui->view, &PageView::turnPage, this, TurningPages,
+                            [this](int direction) { turnPage(direction); });
+    toolkit::connectGuarded(m_ui->view, &PageView::zoomStep, this, Zooming,
+                            [this](int direction) { stepZoom(direction); });
 }
 
 void PreviewWindow::addShortcuts()
 {
-    const auto add = [this](const QKeySequence &keys, auto action) {
-        toolkit::connectGuarded(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    const auto add = [this](const QKeySequence &keys, const QString &doing, auto action) {
+        toolkit::connectGuarded(new QShortcut(keys, this), &QShortcut::activated, this, doing, action);
     };
-    add(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { print(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_S), [this] { savePdf(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_E), [this] { exportSpreadsheet(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Home), [this] { showPage(0); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_End), [this] { showPage(m_document.pageCount() - 1); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Plus), [this] { stepZoom(1); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Equal), [this] { stepZoom(1); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { stepZoom(-1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_P), Printing, [this] { print(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_S), SavingPdf, [this] { savePdf(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_E), Exporting, [this] { exportSpreadsheet(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Home), TurningPages, [this] { showPage(0); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_End), TurningPages, [this] { showPage(m_document.pageCount() - 1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Plus), Zooming, [this] { stepZoom(1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Equal), Zooming, [this] { stepZoom(1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Minus), Zooming, [this] { stepZoom(-1); });
 }
 
 void PreviewWindow::fillZoomLevels()

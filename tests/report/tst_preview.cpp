@@ -245,7 +245,7 @@ TEST_F(Preview, AFailingSaveReachesTheErrorDisplay)
     press(window, Qt::Key_S, "btnPdf");
     automation::setErrorDisplay(before);
     ASSERT_EQ(shown.size(), 1);
-    EXPECT_TRUE(shown.first().startsWith(QStringLiteral("无法写入文件“%1”：").arg(dialogs.file)));
+    EXPECT_TRUE(shown.first().startsWith(QStringLiteral("保存 PDF 时出错：\n无法写入文件“%1”：").arg(dialogs.file)));
     EXPECT_TRUE(window.isVisible());
 }
 

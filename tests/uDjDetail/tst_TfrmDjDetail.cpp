@@ -318,7 +318,7 @@ TEST_F(FeeDetailTest, aFailingQueryReachesTheHostAndTheDialogIsFreed)
         m_desk.engine().failCall(call);
         candidateGrid().setFocusedNode(candidateGrid().node(0));
         hands::trigger(m_desk.form(), "mFeeInfo");
-        EXPECT_EQ(m_desk.errors(), QStringList(call, QStringLiteral("故障")));
+        EXPECT_EQ(m_desk.errors(), QStringList(call, failedWhile("查看费用信息")));
         EXPECT_TRUE(m_desk.conversation().take().last().endsWith(QStringLiteral(" !故障"))) << call;
         EXPECT_EQ(openDialogs(), 0) << call;
         visit(2, [](QWidget &dialog) {

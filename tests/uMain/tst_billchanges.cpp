@@ -378,7 +378,7 @@ TEST_P(BillChangesTest, aDialogThatCannotLoadReachesTheHostAndReloadsNothing)
     choose(Two);
     m_desk->engine().failCall(1);
     hands::click(form(), m_page->add);
-    EXPECT_EQ(m_desk->errors(), QStringList({QStringLiteral("故障")}));
+    EXPECT_EQ(m_desk->errors(), QStringList(failedWhile("添加单据")));
     EXPECT_EQ(said().last(), openSql(data::addBillCandidates(std::nullopt)) + QStringLiteral(" !故障"));
 }
 
@@ -390,7 +390,7 @@ TEST_P(BillChangesTest, aReloadThatFailsAfterAddingReachesTheHost)
         const ModalVisit visit(QStringLiteral("frmAddBill"), [this](QWidget &) { m_desk->engine().failCall(1); });
         hands::click(form(), m_page->add);
     }
-    EXPECT_EQ(m_desk->errors(), QStringList({QStringLiteral("故障")})) << "no page's own alert";
+    EXPECT_EQ(m_desk->errors(), QStringList(failedWhile("添加单据"))) << "no page's own alert";
     EXPECT_FALSE(said().join(u'\n').contains(QStringLiteral("Alert")));
 }
 

@@ -216,7 +216,7 @@ TEST_P(BillPageTest, aListThatFailsLeavesTheGridEmpty)
     choose(Two);
     m_desk->engine().failCall(1);
     hands::clickNode(tree(), 0, Single);
-    EXPECT_EQ(m_desk->errors(), QStringList({QStringLiteral("故障")})) << "the host shows it";
+    EXPECT_EQ(m_desk->errors(), QStringList(failedWhile("载入制单记录"))) << "the host shows it";
     EXPECT_EQ(grid().count(), 0);
     EXPECT_EQ(totals(), QStringLiteral("|0.00|0.00"));
 }

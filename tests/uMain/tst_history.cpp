@@ -267,7 +267,7 @@ TEST_F(HistoryTest, aListThatFailsReachesTheHost)
     choose(Made);
     m_desk->engine().failCall(1);
     choose(Archived);
-    EXPECT_EQ(m_desk->errors(), QStringList({QStringLiteral("故障")}));
+    EXPECT_EQ(m_desk->errors(), QStringList(failedWhile("载入制单记录")));
     EXPECT_EQ(grid().count(), 0);
     EXPECT_EQ(totals(), QStringLiteral("|0.00|0.00|0.00|0.00"));
 }

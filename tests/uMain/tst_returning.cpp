@@ -170,7 +170,7 @@ TEST_F(ReturningTest, aFailingBeginPropagates)
     m_desk->conversation().answerYes();
     m_desk->engine().failCall(BeginCall);
     EXPECT_EQ(giveBack(), QStringList({Confirmed, Begin + QStringLiteral(" !故障")}));
-    EXPECT_EQ(m_desk->errors(), QStringList(QStringLiteral("故障")));
+    EXPECT_EQ(m_desk->errors(), QStringList(failedWhile("退单")));
     EXPECT_EQ(m_desk->contents(), before);
 }
 

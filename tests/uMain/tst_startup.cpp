@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What happens when the main form is shown.
+#include "Common/executablefolder.h"
 #include "automation/registry.h"
 #include "data/statements/startup.h"
 #include "tests/support/desk.h"
@@ -215,7 +216,12 @@ TEST_P(SetupFile, withoutANumberEndsTheStart)
     Desk desk(options);
     const QWidget &form = desk.open();
     EXPECT_TRUE(desk.conversation().lines().isEmpty()) << "nothing is asked after the setup file was refused";
-    EXPECT_EQ(desk.errors().size(), 1);
+    ASSERT_EQ(desk.errors().size(), 1);
+    const QString &error = desk.errors().first();
+    EXPECT_TRUE(error.startsWith(QStringLiteral("载入窗口时出错：\n"))) << error.toStdString();
+    for (const QString &part : {common::executableFolder() + QStringLiteral("setup.ini”"), QStringLiteral("[system]"),
+                                QStringLiteral("connStyle"), QStringLiteral("\n[system]\nconnStyle=1\n")})
+        EXPECT_TRUE(error.contains(part)) << error.toStdString();
     EXPECT_EQ(hands::find<TdxTreeList>(form, "dxTLUp").count(), 0);
 }
 
@@ -224,13 +230,25 @@ INSTANTIATE_TEST_SUITE_P(Odd, SetupFile,
                                          "[system]\nconnStyle=eins\n", "[system]\nconnStyle=1.0\n",
                                          "[other]\nconnStyle=1\n"));
 
+TEST(StartUp, anOddSettingIsQuoted)
+{
+    Desk::Options options;
+    options.setupFile = QStringLiteral("[system]\nconnStyle=一\n");
+    Desk desk(options);
+    desk.open();
+    ASSERT_EQ(desk.errors().size(), 1);
+    EXPECT_TRUE(desk.errors().first().contains(QStringLiteral("connStyle 写的是“一”，不是整数")))
+        << desk.errors().first().toStdString();
+}
+
 TEST(StartUp, missingHostObjectEndsTheStartAtOnce)
 {
     Desk desk;
     automation::unregisterObject(QStringLiteral("VortaqCore.CodeSearch"));
     desk.open();
     EXPECT_TRUE(desk.conversation().lines().isEmpty());
-    EXPECT_EQ(desk.errors(), QStringList({QStringLiteral("主程序没有提供对象“VortaqCore.CodeSearch”。")}));
+    EXPECT_EQ(desk.errors(),
+              QStringList({QStringLiteral("载入窗口时出错：\n主程序没有提供对象“VortaqCore.CodeSearch”。")}));
 }
 
 TEST(StartUp, aFailingQueryEndsTheStartWhereItStands)
@@ -238,7 +256,7 @@ TEST(StartUp, aFailingQueryEndsTheStartWhereItStands)
     Desk desk;
     desk.engine().failCall(3); // institutions, their first one's patients, candidates
     const QWidget &form = desk.open();
-    EXPECT_EQ(desk.errors(), QStringList({QStringLiteral("故障")}));
+    EXPECT_EQ(desk.errors(), QStringList(failedWhile("载入窗口")));
     EXPECT_EQ(desk.conversation().lines().last(),
               openSql(data::billCandidates(std::nullopt)) + QStringLiteral(" !故障"));
     EXPECT_EQ(hands::find<TdxTreeList>(form, "dxTLDjOrgInfo").count(), 2) << "what was loaded stays";

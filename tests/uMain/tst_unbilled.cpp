@@ -234,7 +234,7 @@ TEST_F(UnbilledTest, aFailingListKeepsItsRows)
     hands::clickNode(tree(), 1);
     EXPECT_EQ(m_desk->conversation().take(),
               QStringList(openSql(data::unbilledRecords(QStringLiteral("42990102"))) + QStringLiteral(" !故障")));
-    EXPECT_EQ(m_desk->errors(), QStringList(QStringLiteral("故障")));
+    EXPECT_EQ(m_desk->errors(), QStringList(failedWhile("载入病人记录")));
     EXPECT_EQ(column("DiagNo"), before);
     EXPECT_EQ(footer(), QStringLiteral("共 4 人次"));
 }
@@ -245,7 +245,7 @@ TEST_F(UnbilledTest, aFailingTreeKeepsItsNodes)
     const QStringList before = institutions();
     m_desk->engine().failCall(1);
     showAgain();
-    EXPECT_EQ(m_desk->errors(), QStringList(QStringLiteral("故障")));
+    EXPECT_EQ(m_desk->errors(), QStringList(failedWhile("载入窗口")));
     EXPECT_EQ(institutions(), before);
     EXPECT_EQ(grid().count(), 4);
 }

@@ -38,8 +38,9 @@ TEST_P(SetupFileTest, WithoutANumberIsAnErrorOnTheScreen)
         setup.write(*GetParam().contents);
     }
     const QString errors =
-        program.errorsUntil({}, [](const QString &text) { return text.contains(QLatin1Char('\n')); });
-    EXPECT_EQ(errors.count(QLatin1Char('\n')), 1) << errors.toStdString();
+        program.errorsUntil({}, [](const QString &text) { return text.contains(QStringLiteral("核对。）\n")); });
+    EXPECT_EQ(errors.count(QStringLiteral("载入窗口时出错：\n")), 1) << errors.toStdString();
+    EXPECT_TRUE(errors.contains(folder.filePath(QStringLiteral("setup.ini")))) << errors.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, SetupFileTest,
