@@ -6,6 +6,7 @@
 
 namespace vortaq {
 
+/// Throws StartupError when the standard output does not take the line.
 void writeLine(const QString &text);
 /// Begins with the program's name, as messages of commands do.
 void writeError(const QString &message);

@@ -14,8 +14,8 @@ namespace vortaq {
 [[nodiscard]] QString defaultDatabaseFile();
 
 /// `location` as given on the command line, or the default file, which is made with demo data when it is absent.
-/// Returns the file's absolute path. Throws StartupError for an address of a database server and for a directory that
-/// cannot be made, and what making the demo throws.
+/// Returns the file's absolute path. Throws StartupError for an address of a database server and for a data directory
+/// that is unknown or cannot be made, and what making the demo throws.
 [[nodiscard]] QString prepareDatabase(const QString &location);
 
 /// Opens a database file that exists. Throws StartupError with the engine's own words.

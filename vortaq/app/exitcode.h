@@ -14,8 +14,9 @@ enum class ExitCode {
     Database = 3, ///< no database, none of ours, read-only or locked
     Module = 4, ///< the module is missing or lacks an entry point
     User = 5, ///< the user is unknown
-    TraceFile = 6, ///< the trace cannot be written
-    Tour = 7 ///< a step of the tour went wrong
+    TraceFile = 6, ///< the trace cannot be written, or another file stands in its place
+    Tour = 7, ///< a step of the tour went wrong
+    Output = 8 ///< the standard output takes nothing
 };
 
 /// Why the program cannot start. `what()` is the message for the clerk.

@@ -23,7 +23,8 @@ struct Declared {
                              QStringLiteral("替换一个主程序参数，例如 isBillAll=2；可以多次使用。"),
                              QStringLiteral("名称=值")};
     QCommandLineOption trace{QStringLiteral("trace"),
-                             QStringLiteral("把模块对主程序对象的每次调用写入文件，每行一个 JSON 对象。"),
+                             QStringLiteral("把模块对主程序对象的每次调用写入文件，每行一个 JSON 对象。"
+                                            "以前的跟踪文件会被替换，其他文件不会。"),
                              QStringLiteral("文件")};
     QCommandLineOption module{QStringLiteral("module"),
                               QStringLiteral("要装入的模块。缺省为程序所在目录下的 Module/Tarnwell.so。"),

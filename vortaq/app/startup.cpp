@@ -10,6 +10,7 @@
 #include "vortaq/app/naming.h"
 #include "vortaq/app/options.h"
 #include "vortaq/app/runninghost.h"
+#include "vortaq/app/safewriting.h"
 #include "vortaq/app/tour/tour.h"
 #include "vortaq/app/tour/tourscreen.h"
 #include "vortaq/demo/demodata.h"
@@ -71,6 +72,12 @@ template <typename Task> int carryOut(Task task)
     }
 }
 
+int tell(const QString &text)
+{
+    writeLine(text);
+    return number(ExitCode::Success);
+}
+
 int makeDemo(const Options &options)
 {
     DemoOptions demo;
@@ -93,6 +100,10 @@ int work(const Options &options)
 
 int runWithoutWindows(const Options &options, const QString &mistake, int &argc, char **argv)
 {
+    // A script that stands before the program tells here how it was called itself; the help shows that.
+    QByteArray command = qgetenv("TARNWELL_COMMAND");
+    if (!command.isEmpty())
+        argv[0] = command.data();
     QCoreApplication application(argc, argv);
     useChinese(application);
     if (!mistake.isEmpty()) {
@@ -101,11 +112,9 @@ int runWithoutWindows(const Options &options, const QString &mistake, int &argc,
     }
     switch (options.task) {
     case Options::Task::ShowHelp:
-        writeLine(helpText());
-        return number(ExitCode::Success);
+        return carryOut([] { return tell(helpText()); });
     case Options::Task::ShowVersion:
-        writeLine(programName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
-        return number(ExitCode::Success);
+        return carryOut([] { return tell(programName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()); });
     case Options::Task::CreateDemo:
         return carryOut([&options] { return makeDemo(options); });
     case Options::Task::Work:
@@ -140,6 +149,7 @@ void useIsoDates()
 
 int runProgram(int &argc, char **argv)
 {
+    makeWritingSafe();
     useIsoDates();
     nameProgram();
     const ParsedOptions parsed = parseOptions(argumentsOf(argc, argv));

@@ -15,10 +15,12 @@ namespace vortaq {
 /// the call failed).
 [[nodiscard]] QByteArray traceLine(const automation::CallRecord &call);
 
-/// Listens from construction to destruction; each line is in the file when the next call begins.
+/// Listens from construction to destruction; each line is in the file when the next call begins. What is written goes
+/// into the file that was opened, whatever takes its name later.
 class TraceFile : public automation::CallObserver {
 public:
-    /// Starts the file anew. Throws StartupError when it cannot be written.
+    /// Makes the file. An earlier trace and an empty file are replaced; a pipe or a terminal is written to. Throws
+    /// StartupError for anything else, which stays as it is, and for what cannot be written.
     explicit TraceFile(const QString &file);
     ~TraceFile() override;
 
@@ -26,6 +28,8 @@ public:
     void called(const automation::CallRecord &call) override;
 
 private:
+    void open();
+
     QFile m_file;
 };
 

@@ -11,9 +11,14 @@
 #include "vortaq/sqlerror.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QRegularExpression>
 
 #include <algorithm>
+#include <chrono>
 #include <stdexcept>
 
 namespace vortaq {
@@ -72,6 +77,42 @@ void fill(sqlite3 *database, const DemoOptions &options)
     execute(database, "commit");
 }
 
+QFileInfoList unfinishedFiles(const QString &file)
+{
+    const QFileInfo made(file);
+    const QRegularExpression name(QRegularExpression::anchoredPattern(QRegularExpression::escape(made.fileName())
+                                                                      + QStringLiteral("\\.[0-9]+\\.part")));
+    QFileInfoList found = made.absoluteDir().entryInfoList(QDir::Files | QDir::Hidden);
+    erase_if(found, [&name](const QFileInfo &info) { return !name.match(info.fileName()).hasMatch(); });
+    return found;
+}
+
+/// One program at a time makes a file. The system knows whether the program that holds the lock still lives.
+class MakingLock {
+public:
+    MakingLock(const QString &file, std::chrono::milliseconds patience)
+        : m_file(file)
+        , m_lock(file + QStringLiteral(".lock"))
+        , m_isHeld(m_lock.tryLock(patience))
+    {
+        if (m_isHeld)
+            removeLeftovers();
+    }
+
+    [[nodiscard]] bool isHeldElsewhere() const { return !m_isHeld && m_lock.error() == QLockFile::LockFailedError; }
+
+private:
+    void removeLeftovers() const
+    {
+        for (const QFileInfo &left : unfinishedFiles(m_file))
+            QFile::remove(left.filePath());
+    }
+
+    QString m_file;
+    QLockFile m_lock;
+    bool m_isHeld;
+};
+
 /// A file that vanishes unless it gets its final name.
 class UnfinishedFile {
 public:
@@ -79,8 +120,6 @@ public:
         : m_file(file)
         , m_name(QStringLiteral("%1.%2.part").arg(file).arg(QCoreApplication::applicationPid()))
     {
-        // Left behind by a program of the same number that was killed.
-        QFile::remove(m_name);
     }
     ~UnfinishedFile() { QFile::remove(m_name); }
     UnfinishedFile(const UnfinishedFile &) = delete;
@@ -101,11 +140,18 @@ private:
 
 } // namespace
 
-void createDemo(const QString &file, const DemoOptions &options)
+void createDemo(const QString &file, const DemoOptions &options, Existing existing)
 {
+    constexpr std::chrono::minutes Patience(2);
     checkOptions(options);
-    if (QFile::exists(file))
+    const MakingLock lock(file, Patience);
+    if (QFile::exists(file)) {
+        if (existing == Existing::Taken)
+            return;
         throw SqlError(SqlError::Reason::Other, "文件已经存在，不会被覆盖：" + file.toStdString());
+    }
+    if (lock.isHeldElsewhere())
+        throw SqlError(SqlError::Reason::Busy, "另一个程序正在建立数据库，请稍后再试：" + file.toStdString());
     UnfinishedFile unfinished(file);
     try {
         const Connection connection = createFile(unfinished.name());
@@ -114,6 +160,13 @@ void createDemo(const QString &file, const DemoOptions &options)
         throw SqlError(error.reason(), "演示数据库没有生成：" + file.toStdString() + "\n" + error.what());
     }
     unfinished.finish();
+}
+
+void removeUnfinishedDemos(const QString &file)
+{
+    if (unfinishedFiles(file).isEmpty())
+        return;
+    const MakingLock lock(file, std::chrono::milliseconds(0));
 }
 
 } // namespace vortaq

@@ -32,9 +32,16 @@ struct DemoOptions {
     int detailLines = 0; ///< fee lines of a stay on average; 0: a dozen, and fewer in large databases
 };
 
+/// What an existing file of the name means to whoever asks for a demo.
+enum class Existing { Refused, Taken };
+
 /// Writes a new database `file`. It is written under a name of its own beside it and renamed when complete, so a
-/// half-made file never bears the name; an existing file is never replaced.
+/// half-made file never bears the name; an existing file is never replaced. Of several programs that make one file at
+/// once the first makes it and the others wait: then it exists. What killed programs left behind is removed.
 /// Throws SqlError, or std::invalid_argument for options out of range.
-void createDemo(const QString &file, const DemoOptions &options = {});
+void createDemo(const QString &file, const DemoOptions &options = {}, Existing existing = Existing::Refused);
+
+/// Removes what programs that were killed while they made `file` left beside it, unless somebody is making it.
+void removeUnfinishedDemos(const QString &file);
 
 } // namespace vortaq

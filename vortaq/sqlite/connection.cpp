@@ -33,6 +33,8 @@ void Connection::Closer::operator()(sqlite3 *database) const noexcept
 
 Connection::Connection(const QString &file, const Settings &settings)
 {
+    if (QFileInfo(file).isDir())
+        throw SqlError(SqlError::Reason::Other, "这是目录，不是数据库文件：\n" + file.toStdString());
     if (!QFileInfo(file).isFile())
         throw SqlError(SqlError::Reason::Other, "找不到数据库文件：\n" + file.toStdString());
     const int mode = settings.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;

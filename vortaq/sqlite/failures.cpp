@@ -79,6 +79,8 @@ void throwFailure(sqlite3 *database, int code)
     case SQLITE_FULL:
         throw SqlError(Reason::Other, "磁盘空间不足，数据没有保存。");
     case SQLITE_IOERR:
+        if (code == SQLITE_IOERR_WRITE) // a quota, a limit on the size of files, a disk that fails
+            throw SqlError(Reason::Other, "数据库文件不能再写入，数据没有保存。请检查磁盘、配额和文件大小的限制。");
         throw SqlError(Reason::Other, "读写数据库文件时出错（" + std::to_string(code) + "）。");
     case SQLITE_TOOBIG:
         throw SqlError(Reason::Other, "数据过大，无法处理。");

@@ -136,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadStart{"FolderAsDatabase",
                              {QStringLiteral("--database"), QStringLiteral("%h")},
                              ExitCode::Database,
-                             "无法打开数据库。\n找不到数据库文件：\n%h\n"},
+                             "无法打开数据库。\n这是目录，不是数据库文件：\n%h\n"},
                     BadStart{"SomebodyElsesDatabase",
                              {QStringLiteral("--database"), QStringLiteral("%h/other.db")},
                              ExitCode::Database,
@@ -183,13 +183,15 @@ TEST_F(ProgramTest, TheDefaultDatabaseIsMadeWhenThereIsNone)
 TEST_F(ProgramTest, ATraceOfAnEarlierRunIsReplacedOnlyWhenTheProgramStarts)
 {
     const QString trace = m_program.path(QStringLiteral("trace.jsonl"));
-    write(trace, "old\n");
+    const QByteArray old = R"({"object":"DataCtl","operation":"BeginTran","kind":"method","args":[],"ok":true})"
+                           "\n";
+    write(trace, old);
     EXPECT_EQ(m_program
                   .run({QStringLiteral("--database"), demo(), QStringLiteral("--user"), QStringLiteral("99"),
                         QStringLiteral("--trace"), trace})
                   .exitCode,
               code(ExitCode::User));
-    EXPECT_EQ(contents(trace), "old\n");
+    EXPECT_EQ(contents(trace), old);
 }
 
 } // namespace vortaq::test

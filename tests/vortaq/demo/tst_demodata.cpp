@@ -9,6 +9,8 @@
 #include <QFile>
 
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <stdexcept>
@@ -103,6 +105,75 @@ TEST(DemoFile, VanishesWhenTheDiskIsFull)
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(entries(folder), QStringList{});
+}
+
+TEST(DemoFile, SomebodyElsesIsTakenWhereThatWasAskedFor)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("demo.db"));
+    createDemo(file, optionsOf(5, 0), Existing::Taken);
+    createDemo(file, optionsOf(7, 0), Existing::Taken);
+    EXPECT_EQ(TestDatabase(file).value("select count(*) from o_CbZyBxDj"), "5");
+    EXPECT_EQ(entries(folder), QStringList{QStringLiteral("demo.db")});
+}
+
+/// A program in the middle of making a large demo.
+class Maker {
+public:
+    explicit Maker(const QString &file)
+        : m_process(::fork())
+    {
+        if (m_process == 0) {
+            createDemo(file, optionsOf(1'000'000, 0));
+            ::_exit(0);
+        }
+    }
+    ~Maker() { kill(); }
+    Maker(const Maker &) = delete;
+    Maker &operator=(const Maker &) = delete;
+
+    [[nodiscard]] bool isAtWork() const { return ::waitpid(m_process, nullptr, WNOHANG) == 0; }
+    void kill()
+    {
+        if (m_process > 0) {
+            ::kill(m_process, SIGKILL);
+            ::waitpid(m_process, nullptr, 0);
+        }
+        m_process = -1;
+    }
+
+private:
+    pid_t m_process;
+};
+
+TEST(DemoFile, UnfinishedStaysAsLongAsItsMakerLives)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("demo.db"));
+    const QStringList part{QStringLiteral("demo.db.*.part")};
+    Maker maker(file);
+    while (QDir(folder.path()).entryList(part).isEmpty() && maker.isAtWork())
+        ::usleep(1000);
+    removeUnfinishedDemos(file);
+    EXPECT_EQ(QDir(folder.path()).entryList(part).size(), 1);
+    ASSERT_TRUE(maker.isAtWork());
+
+    maker.kill();
+    EXPECT_EQ(QDir(folder.path()).entryList(part).size(), 1);
+    removeUnfinishedDemos(file);
+    EXPECT_EQ(entries(folder), QStringList());
+}
+
+TEST(DemoFile, IsMadeAfterAnotherMakerWasKilled)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("demo.db"));
+    Maker maker(file);
+    while (entries(folder).size() < 2 && maker.isAtWork())
+        ::usleep(1000);
+    maker.kill();
+    createDemo(file, optionsOf(5, 0));
+    EXPECT_EQ(entries(folder), QStringList{QStringLiteral("demo.db")});
 }
 
 struct BadOptions {

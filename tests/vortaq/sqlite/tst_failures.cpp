@@ -51,7 +51,7 @@ TEST(Opening, MissingFile)
 TEST(Opening, AFolder)
 {
     const QTemporaryDir folder;
-    EXPECT_EQ(openError(folder.path()), "Other: 找不到数据库文件：\n" + folder.path().toStdString());
+    EXPECT_EQ(openError(folder.path()), "Other: 这是目录，不是数据库文件：\n" + folder.path().toStdString());
 }
 
 TEST(Opening, SomethingElse)
@@ -254,7 +254,7 @@ TEST(FailingDisk, LosesOnlyTheTransaction)
     const std::string error = errorOf([&] { hospital.engine->commit(); });
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(error.find("Other: 读写数据库文件时出错"), 0U) << error;
+    EXPECT_EQ(error, "Other: 数据库文件不能再写入，数据没有保存。请检查磁盘、配额和文件大小的限制。");
     hospital.engine->rollback();
     EXPECT_EQ(ask(*hospital.engine, "select BillNo from o_CbZyZdb order by BillNo"), "11\n12\n13");
     EXPECT_EQ(hospital.database.look("pragma integrity_check"), "ok");

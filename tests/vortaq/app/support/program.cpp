@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 
 #include <stdexcept>
 
@@ -61,22 +60,38 @@ Program Program::copied(const QString &folder)
     return program;
 }
 
+void Program::start(QProcess &process, const QStringList &arguments) const
+{
+    process.setProcessEnvironment(m_environment);
+    process.setChildProcessModifier(m_preparation);
+    process.start(m_executable, arguments);
+}
+
 Outcome Program::run(const QStringList &arguments)
 {
-    QProcess process;
-    process.setProcessEnvironment(m_environment);
-    process.start(m_executable, arguments);
-    const bool ended = process.waitForFinished(PatienceMilliseconds) && process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
-            ownLines(process.readAllStandardError())};
+    return runTogether(1, arguments).front();
+}
+
+std::vector<Outcome> Program::runTogether(int count, const QStringList &arguments)
+{
+    std::vector<QProcess> processes(static_cast<std::size_t>(count));
+    for (QProcess &process : processes)
+        start(process, arguments);
+    std::vector<Outcome> outcomes;
+    for (QProcess &process : processes) {
+        const bool ended = (process.state() == QProcess::NotRunning || process.waitForFinished(PatienceMilliseconds))
+            && process.exitStatus() == QProcess::NormalExit;
+        outcomes.push_back({ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
+                            ownLines(process.readAllStandardError())});
+    }
+    return outcomes;
 }
 
 QString Program::errorsUntil(const QStringList &arguments, const std::function<bool(const QString &)> &enough)
 {
     QProcess process;
-    process.setProcessEnvironment(m_environment);
     process.setReadChannel(QProcess::StandardError);
-    process.start(m_executable, arguments);
+    start(process, arguments);
     const QDeadlineTimer deadline(PatienceMilliseconds);
     QByteArray errors;
     while (!enough(ownLines(errors)) && !deadline.hasExpired() && process.waitForReadyRead(PatienceMilliseconds))
