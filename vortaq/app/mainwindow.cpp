@@ -2,6 +2,8 @@
 // Opens, closes and embeds the module's form.
 #include "vortaq/app/mainwindow.h"
 
+#include "vortaq/app/errorwatch.h"
+#include "vortaq/app/loadingnotice.h"
 #include "vortaq/app/menucaption.h"
 #include "vortaq/app/menukeys.h"
 #include "vortaq/app/modulelibrary.h"
@@ -122,6 +124,9 @@ void MainWindow::buildStatusBar(const QString &database)
                  m_session->parameter(QStringLiteral("OrgCode")).toString()),
         1);
     add(QStringLiteral("statusDatabase"), QStringLiteral("数据库：%1").arg(database), 0);
+    m_loadingNotice = new LoadingNotice(this);
+    statusBar()->addPermanentWidget(m_loadingNotice);
+    connect(m_loadingNotice, &LoadingNotice::retryWanted, this, &MainWindow::openFunction);
 }
 
 void MainWindow::openFunction()
@@ -132,11 +137,21 @@ void MainWindow::openFunction()
             m_pages->addWidget(&form);
             form.installEventFilter(this);
         }
-        m_pages->setCurrentWidget(&form);
-        form.show(); // a form that closed itself is still the current page until the event loop runs
-        focusInto(form);
+        const bool isUnloaded = !form.isEnabledTo(m_pages);
+        if (isUnloaded)
+            form.hide();
+        showForm(form);
     });
     updateState();
+}
+
+void MainWindow::showForm(QWidget &form)
+{
+    const ErrorWatch watch;
+    m_pages->setCurrentWidget(&form);
+    form.show(); // a form that closed itself is still the current page until the event loop runs
+    form.setEnabled(!watch.hasSeenError());
+    focusInto(form);
 }
 
 void MainWindow::closeFunction()
@@ -172,6 +187,10 @@ void MainWindow::updateState()
     const bool open = form && m_pages->currentWidget() == form && !form->isHidden();
     if (!open && m_pages->currentWidget() != m_startPage)
         showStartPage();
+    const bool isUnloaded = open && !form->isEnabledTo(m_pages);
+    m_loadingNotice->setVisible(isUnloaded);
+    if (isUnloaded)
+        m_loadingNotice->setFocus();
     m_refresh->setEnabled(form != nullptr);
     m_closeFunction->setEnabled(form != nullptr);
     setWindowTitle(open ? QStringLiteral("%1 - %2").arg(m_module.info().function.caption, programTitle())

@@ -10,6 +10,7 @@ class QStackedWidget;
 
 namespace vortaq {
 
+class LoadingNotice;
 class ModuleLibrary;
 class Session;
 class StartPage;
@@ -25,7 +26,9 @@ public:
     MainWindow(std::shared_ptr<Session> session, ModuleLibrary &module, const QString &database, Geometry geometry);
     ~MainWindow() override;
 
-    /// Shows the module's form, making it when there is none. A form that was closed is shown anew.
+    /// Shows the module's form, making it when there is none. A form that was closed or could not be loaded is shown
+    /// anew. A form that displays an error while it is shown is not loaded: it stays on the screen, disabled, and the
+    /// status bar says so and offers to try again.
     void openFunction();
     /// Frees the module's form and returns to the start page.
     void closeFunction();
@@ -38,6 +41,7 @@ protected:
 private:
     void buildMenus();
     void buildStatusBar(const QString &database);
+    void showForm(QWidget &form);
     void showStartPage();
     void updateState();
     void about();
@@ -47,6 +51,7 @@ private:
     Geometry m_geometry;
     QStackedWidget *m_pages;
     StartPage *m_startPage;
+    LoadingNotice *m_loadingNotice = nullptr;
     QAction *m_refresh = nullptr;
     QAction *m_closeFunction = nullptr;
 };

@@ -206,6 +206,111 @@ TEST_F(MainWindowTest, MinimisingAndClosingTheWindowLeaveTheFormOpen)
     EXPECT_FALSE(m_module.form()->isHidden());
 }
 
+class FailedLoadingTest : public MainWindowTest {
+protected:
+    ~FailedLoadingTest() override { setFailing(false); }
+
+    static void setFailing(bool isFailing) { QCoreApplication::instance()->setProperty("loadingFails", isFailing); }
+    [[nodiscard]] QWidget &notice() const { return *m_window.findChild<QWidget *>(QStringLiteral("loadingNotice")); }
+    [[nodiscard]] bool isOffered() const { return notice().isVisible(); }
+    [[nodiscard]] QPushButton &retry() const
+    {
+        return *m_window.findChild<QPushButton *>(QStringLiteral("retryButton"));
+    }
+    [[nodiscard]] int timesShown() const { return m_module.form()->property("shown").toInt(); }
+    void openInVain()
+    {
+        setFailing(true);
+        trigger("openFunctionAction");
+    }
+};
+
+TEST_F(FailedLoadingTest, AFormThatIsLoadedIsOfferedNoSecondTry)
+{
+    EXPECT_FALSE(isOffered());
+    trigger("openFunctionAction");
+    EXPECT_FALSE(isOffered());
+    EXPECT_TRUE(m_module.form()->isEnabled());
+}
+
+TEST_F(FailedLoadingTest, TheFormStaysOnTheScreenAndTakesNothing)
+{
+    openInVain();
+    EXPECT_EQ(m_errors, QStringList(QStringLiteral("没有数据。")));
+    EXPECT_TRUE(m_module.form()->isVisible());
+    EXPECT_FALSE(m_module.form()->isEnabled());
+    EXPECT_TRUE(isOffered());
+    EXPECT_EQ(label("statusLoading"), QStringLiteral("载入失败，功能暂停使用"));
+    EXPECT_TRUE(isEnabled("closeFunctionAction"));
+    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("制单 - 农合医院业务平台"));
+}
+
+TEST_F(FailedLoadingTest, TheKeyboardStandsOnTheSecondTry)
+{
+    openInVain();
+    EXPECT_EQ(m_window.focusWidget(), &retry());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+        const int before = timesShown();
+        QTest::keyClick(m_window.focusWidget(), key);
+        QApplication::processEvents();
+        EXPECT_EQ(timesShown(), before + 1);
+        EXPECT_EQ(m_window.focusWidget(), &retry()) << "in vain again";
+    }
+    EXPECT_EQ(m_errors.size(), 3);
+}
+
+TEST_F(FailedLoadingTest, TheSecondTryShowsTheFormAnew)
+{
+    openInVain();
+    setFailing(false);
+    retry().click();
+    QApplication::processEvents();
+    EXPECT_EQ(timesShown(), 2);
+    EXPECT_TRUE(m_module.form()->isVisible());
+    EXPECT_TRUE(m_module.form()->isEnabled());
+    EXPECT_FALSE(isOffered());
+    EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("btnExit"));
+    EXPECT_EQ(m_errors.size(), 1);
+}
+
+TEST_F(FailedLoadingTest, ChoosingTheFunctionAgainIsASecondTry)
+{
+    openInVain();
+    setFailing(false);
+    trigger("openFunctionAction");
+    EXPECT_EQ(timesShown(), 2);
+    EXPECT_TRUE(m_module.form()->isEnabled());
+}
+
+TEST_F(FailedLoadingTest, ALaterShowingThatFailsCountsAsWell)
+{
+    trigger("openFunctionAction");
+    m_module.form()->close();
+    QApplication::processEvents();
+    openInVain();
+    EXPECT_EQ(timesShown(), 2);
+    EXPECT_FALSE(m_module.form()->isEnabled());
+    EXPECT_TRUE(isOffered());
+}
+
+TEST_F(FailedLoadingTest, ErrorsOfLaterWorkDisableNothing)
+{
+    trigger("openFunctionAction");
+    automation::displayError(QStringLiteral("磁盘已满。"));
+    trigger("openFunctionAction");
+    EXPECT_TRUE(m_module.form()->isEnabled());
+    EXPECT_FALSE(isOffered());
+}
+
+TEST_F(FailedLoadingTest, ClosingTheFunctionTakesTheOfferBack)
+{
+    openInVain();
+    trigger("closeFunctionAction");
+    EXPECT_TRUE(startPageShown());
+    EXPECT_FALSE(isOffered());
+    EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("openFunctionButton"));
+}
+
 class FailingModuleTest : public MainWindowTest {
 protected:
     FailingModuleTest()

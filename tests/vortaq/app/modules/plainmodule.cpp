@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The smallest module that works: a form with an exit button, which counts how often it was shown.
+// The smallest module that works: a form with an exit button, which counts how often it was shown, and displays an
+// error at it where the application has the property "loadingFails".
+#include "automation/errordisplay.h"
 #include "module/tarnwell_module.h"
 
+#include <QCoreApplication>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QVariant>
@@ -25,8 +28,11 @@ protected:
     void showEvent(QShowEvent *event) override
     {
         QWidget::showEvent(event);
-        if (!event->spontaneous())
-            setProperty("shown", property("shown").toInt() + 1);
+        if (event->spontaneous())
+            return;
+        setProperty("shown", property("shown").toInt() + 1);
+        if (QCoreApplication::instance()->property("loadingFails").toBool())
+            automation::displayError(QStringLiteral("没有数据。"));
     }
 
 private:
