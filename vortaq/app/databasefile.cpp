@@ -68,6 +68,10 @@ QString prepareDatabase(const QString &location)
 
 std::shared_ptr<Engine> openDatabase(const QString &file)
 {
+    // The engine would open a protected file, and a clerk would learn of it when he saves.
+    const QFileInfo info(file);
+    if (info.isFile() && !(info.isReadable() && info.isWritable()))
+        throw cannotOpen(QStringLiteral("没有读写此文件的权限：\n") + file);
     try {
         return openSqlite(file);
     } catch (const SqlError &error) {

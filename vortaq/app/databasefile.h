@@ -18,7 +18,8 @@ namespace vortaq {
 /// that is unknown or cannot be made, and what making the demo throws.
 [[nodiscard]] QString prepareDatabase(const QString &location);
 
-/// Opens a database file that exists. Throws StartupError with the engine's own words.
+/// Opens a database file that exists. Throws StartupError for a file that may not be written, else with the engine's
+/// own words.
 [[nodiscard]] std::shared_ptr<Engine> openDatabase(const QString &file);
 
 } // namespace vortaq

@@ -8,8 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <fcntl.h>
+#include <linux/capability.h>
 #include <sqlite3.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -171,6 +172,21 @@ TEST_F(SurroundingsTest, AHomeThatTakesNoFolderIsAnError)
     EXPECT_EQ(outcome.errors,
               QStringLiteral("无法打开数据库。\n不能建立目录“%1”。可以用 --database 指定别处的文件。\n")
                   .arg(QFileInfo(defaultFile()).path()));
+}
+
+TEST_F(SurroundingsTest, AProtectedDatabaseIsToldAtTheStart)
+{
+    const QString file = m_program.path(QStringLiteral("demo.db"));
+    ASSERT_EQ(m_program.run({QStringLiteral("--create-demo"), file}).exitCode, 0);
+    // Permissions bind a clerk; here they are to bind the machine's master as well.
+    m_program.prepareProcess([] { ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE); });
+    for (const QFile::Permissions permissions : {QFile::Permissions(QFile::ReadOwner), QFile::Permissions()}) {
+        ASSERT_TRUE(QFile::setPermissions(file, permissions));
+        const Outcome outcome = m_program.run({QStringLiteral("--database"), file});
+        EXPECT_EQ(outcome.exitCode, code(ExitCode::Database));
+        EXPECT_EQ(outcome.errors, QStringLiteral("无法打开数据库。\n没有读写此文件的权限：\n%1\n").arg(file));
+    }
+    EXPECT_EQ(QDir(m_program.path({})).entryList({QStringLiteral("demo*")}), QStringList(QStringLiteral("demo.db")));
 }
 
 TEST_F(SurroundingsTest, ChineseNamesNeedNoChineseLocale)
