@@ -59,10 +59,10 @@ TARNWELL_API int32_t TARNWELL_CALL CreateModule(void **form, intptr_t value2, in
  *                      that has been destroyed already.
  * TARNWELL_BUSY        nothing was done: a dialog, a question or a print preview of the module is open, the host is
  *                      showing something for it (a message, the look-up), or a change is under way; with several
- *                      forms, whichever of them is concerned. Try again when the modal loop has ended, that is from
- *                      the host's own event loop. A host that cannot wait for the clerk closes
- *                      QApplication::activeModalWidget() until there is none (a question takes that for "no") and then
- *                      tries again. Neither the form's parent nor the module may go before.
+ *                      forms, whichever of them is concerned. Try again when the modal loop has ended, from the
+ *                      host's own event loop. A host that cannot wait for the clerk closes
+ *                      QApplication::activeModalWidget(), which a question takes for "no", and tries again at the next
+ *                      turn of the loop. Neither the form's parent nor the module may go before.
  */
 typedef int32_t(TARNWELL_CALL *TarnwellFreeModule)(void **form);
 TARNWELL_API int32_t TARNWELL_CALL FreeModule(void **form);

@@ -44,13 +44,7 @@ protected:
         automation::setErrorDisplay([](const QString &message) { ADD_FAILURE() << message.toStdString(); });
         EXPECT_TRUE(m_library.load()) << m_library.errorString().toStdString();
         m_free = reinterpret_cast<TarnwellFreeModule>(m_library.resolve("FreeModule"));
-        const auto create = reinterpret_cast<TarnwellCreateModule>(m_library.resolve("CreateModule"));
-        EXPECT_EQ(create(&m_address, 0, 0, 0, 0, 0, 0), TARNWELL_OK);
-        m_form = static_cast<QWidget *>(m_address);
-        m_form->resize(1200, 700);
-        m_form->show();
-        m_form->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(m_form));
+        makeForm();
     }
     ~FreeWhileBusyTest() override
     {
@@ -59,6 +53,16 @@ protected:
         automation::setErrorDisplay({});
     }
 
+    void makeForm()
+    {
+        const auto create = reinterpret_cast<TarnwellCreateModule>(m_library.resolve("CreateModule"));
+        EXPECT_EQ(create(&m_address, 0, 0, 0, 0, 0, 0), TARNWELL_OK);
+        m_form = static_cast<QWidget *>(m_address);
+        m_form->resize(1200, 700);
+        m_form->show();
+        m_form->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_form));
+    }
     template <typename Component> [[nodiscard]] Component &find(const char *name) const
     {
         auto *component = m_form->findChild<Component *>(QString::fromUtf8(name));
@@ -165,6 +169,28 @@ TEST_F(FreeWhileBusyTest, amongTheEventsThatAChangeLetsRun)
     EXPECT_EQ(find<QTreeView>("dxTLUpOrgInfo").model()->rowCount(), 0) << "the bill is cancelled";
 }
 
+TEST_F(FreeWhileBusyTest, aHostThatClosesWhatIsOpenIsFreeOfTheFormInTheEnd)
+{
+    QStringList closed;
+    QTimer signOut;
+    QObject::connect(&signOut, &QTimer::timeout, &signOut, [&] {
+        QWidget *open = QApplication::activeModalWidget();
+        if (closed.isEmpty() && (open == nullptr || open->objectName() != QStringLiteral("frmPrint")))
+            return; // not yet
+        if (m_free(&m_address) != TARNWELL_BUSY) {
+            signOut.stop();
+        } else if (open != nullptr) {
+            closed.append(open->objectName());
+            open->close();
+        }
+    });
+    signOut.start(0);
+    click("btnFeeInfo");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_form.isNull(); }));
+    EXPECT_EQ(closed, QStringList(QStringLiteral("frmPrint")));
+    makeForm();
+}
+
 TEST_F(FreeWhileBusyTest, menusAndCalendarsGoWithTheForm)
 {
     QContextMenuEvent request(QContextMenuEvent::Keyboard, {}, {});
@@ -173,10 +199,7 @@ TEST_F(FreeWhileBusyTest, menusAndCalendarsGoWithTheForm)
     EXPECT_EQ(m_free(&m_address), TARNWELL_OK);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 
-    const auto create = reinterpret_cast<TarnwellCreateModule>(m_library.resolve("CreateModule"));
-    ASSERT_EQ(create(&m_address, 0, 0, 0, 0, 0, 0), TARNWELL_OK);
-    m_form = static_cast<QWidget *>(m_address);
-    m_form->show();
+    makeForm();
     QTest::keyClick(&find<QWidget>("dxDEWirte"), Qt::Key_F4);
     EXPECT_NE(QApplication::activePopupWidget(), nullptr);
 }
