@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QStackedWidget>
 #include <QTabBar>
 
 namespace {
@@ -92,6 +95,22 @@ TEST_F(FocusTest, staysOnTheTabsWhileArrowsWalkAlongThem)
     EXPECT_TRUE(pages().tabBar()->hasFocus());
     press(Qt::Key_Tab);
     EXPECT_EQ(focus(), QStringLiteral("dxTLBackOrg"));
+}
+
+TEST_F(FocusTest, isInTheWorkFieldOfAFormThatAHostTakesIntoItsWindow)
+{
+    form().hide();
+    QMainWindow window;
+    auto *contents = new QStackedWidget(&window);
+    auto *open = new QPushButton(contents);
+    contents->addWidget(open);
+    contents->addWidget(&form());
+    window.setCentralWidget(contents);
+    window.show();
+    open->setFocus();
+    contents->setCurrentWidget(&form());
+    EXPECT_EQ(window.focusWidget(), &list("dxTLUp"));
+    form().setParent(nullptr); // the desk frees it
 }
 
 TEST_F(FocusTest, isInTheWorkFieldAtEachShowing)
