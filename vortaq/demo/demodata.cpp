@@ -142,7 +142,7 @@ private:
 
 void createDemo(const QString &file, const DemoOptions &options, Existing existing)
 {
-    constexpr std::chrono::minutes Patience(2);
+    constexpr std::chrono::minutes Patience(1);
     checkOptions(options);
     const MakingLock lock(file, Patience);
     if (QFile::exists(file)) {
