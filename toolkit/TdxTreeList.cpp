@@ -260,7 +260,7 @@ void TdxTreeList::setFooterVisible(bool visible)
 void TdxTreeList::setFooterText(int position, const QString &text)
 {
     d->footer->setText(position, text);
-    d->fit.makeRoom(position, text);
+    d->fit.makeRoomFor(text, position);
 }
 
 QString TdxTreeList::footerText(int position) const

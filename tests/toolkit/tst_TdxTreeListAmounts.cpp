@@ -389,6 +389,23 @@ TEST_F(TypedAmounts, whatIsLeftUnfinishedIsDroppedAndTold)
               "没有输完的金额未采用，仍为原来的数值。\n这里只能输入金额：最多13位整数和2位小数，例如 1,234.50。");
 }
 
+TEST_F(TypedAmounts, arrowsLeaveTheEditorWithAnAmountOnly)
+{
+    QLineEdit *line = open(2);
+    QTest::keyClicks(line, QStringLiteral("8.5"));
+    QTest::keyClick(line, Qt::Key_Up);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(stored(2), "8.5");
+    EXPECT_EQ(hints::shown(), "");
+    line = open(2);
+    QTest::keyClicks(line, QStringLiteral("-"));
+    QTest::keyClick(line, Qt::Key_Up);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(editor(), nullptr);
+    EXPECT_EQ(stored(2), "8.5");
+    EXPECT_NE(hints::shown(), "");
+}
+
 TEST_F(TypedAmounts, anotherRowsEditorTakesTheOldOnesAmountAlong)
 {
     QTest::keyClicks(open(0), QStringLiteral("3.5"));

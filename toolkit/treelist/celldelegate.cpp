@@ -113,8 +113,10 @@ void CellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 void CellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
     const auto *amount = qobject_cast<const AmountEditor *>(editor);
-    if (amount == nullptr || amount->hasChanged())
+    if (amount == nullptr)
         QStyledItemDelegate::setModelData(editor, model, index);
+    else if (amount->hasChanged() && !model->setData(index, amount->text(), Qt::EditRole))
+        amount->tellItIsDropped(); // the arrow keys leave the editor whatever stands in it
 }
 
 bool CellDelegate::eventFilter(QObject *watched, QEvent *event)

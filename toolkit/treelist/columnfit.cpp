@@ -74,10 +74,22 @@ void ColumnFit::refit(int column)
     setWidth(column, std::max(texts, amountsWidth(column)));
 }
 
-void ColumnFit::makeRoom(int column, const QString &shownAmount)
+const TdxTreeListCurrencyColumn *ColumnFit::amounts(int column) const
 {
-    if (!m_header.isPlain() && m_columns[static_cast<std::size_t>(column)]->definition().kind == ColumnKind::Currency)
-        widen(column, textWidth(shownAmount));
+    const auto at = static_cast<std::size_t>(column);
+    return at < m_columns.size() ? qobject_cast<const TdxTreeListCurrencyColumn *>(m_columns[at]) : nullptr;
+}
+
+void ColumnFit::makeRoomFor(int node, int column)
+{
+    if (const TdxTreeListCurrencyColumn *about = amounts(column))
+        makeRoomFor(m_model.shownText(node, *about), column);
+}
+
+void ColumnFit::makeRoomFor(const QString &sum, int column)
+{
+    if (!m_header.isPlain() && amounts(column) != nullptr)
+        widen(column, textWidth(sum));
 }
 
 void ColumnFit::widen(int column, int width)
@@ -141,11 +153,11 @@ int ColumnFit::withMargins(int width) const
 
 int ColumnFit::amountsWidth(int column) const
 {
-    const auto *amounts = qobject_cast<const TdxTreeListCurrencyColumn *>(m_columns[static_cast<std::size_t>(column)]);
+    const TdxTreeListCurrencyColumn *about = amounts(column);
     const std::vector<int> &nodes = m_store.children(NodeStore::None);
-    if (amounts == nullptr || nodes.empty() || m_header.isSectionHidden(column))
+    if (about == nullptr || nodes.empty() || m_header.isSectionHidden(column))
         return 0;
-    return withMargins(amountWidth(m_store, nodes, *amounts, m_view.fontMetrics()));
+    return withMargins(amountWidth(m_store, nodes, *about, m_view.fontMetrics()));
 }
 
 int ColumnFit::cellWidth(int node, int column) const

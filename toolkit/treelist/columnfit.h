@@ -8,6 +8,7 @@
 
 class QTreeView;
 class TdxTreeListColumn;
+class TdxTreeListCurrencyColumn;
 
 namespace toolkit::treelist {
 
@@ -27,8 +28,10 @@ public:
     void loaded();
     /// Format or drawing of a column changed.
     void refit(int column);
-    /// An amount came into the column by itself: typed, or as the sum below it. Nothing for other columns.
-    void makeRoom(int column, const QString &shownAmount);
+    /// An amount came into the column by itself. Nothing for other columns.
+    void makeRoomFor(int node, int column);
+    /// The same for a sum below it.
+    void makeRoomFor(const QString &sum, int column);
     /// The user resized it.
     void keep(int column);
     /// In a plain list (a tree) the last column takes the width that is left; longer texts scroll.
@@ -44,6 +47,8 @@ private:
     [[nodiscard]] int withMargins(int width) const;
     [[nodiscard]] int cellWidth(int node, int column) const;
     [[nodiscard]] bool numbersRows(int column) const;
+    /// The column when it is one of amounts, else null.
+    [[nodiscard]] const TdxTreeListCurrencyColumn *amounts(int column) const;
     void widen(int column, int width);
     void setWidth(int column, int width);
 

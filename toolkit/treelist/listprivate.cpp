@@ -70,8 +70,7 @@ void TdxTreeList::Private::valueChanged(int node, int position)
     if (resetting)
         return;
     if (updates == 0) {
-        if (position < int(columns.size()))
-            fit.makeRoom(position, model->shownText(node, *columns[std::size_t(position)]));
+        fit.makeRoomFor(node, position);
         model->valueChanged(node, position);
         return;
     }
