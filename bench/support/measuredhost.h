@@ -6,7 +6,7 @@
 #include "automation/latebound.h"
 #include "automation/registry.h"
 #include "host/references.h"
-#include "vortaq/engine.h"
+#include "vortaq/Engine.h"
 
 #include <QObject>
 #include <QVariant>

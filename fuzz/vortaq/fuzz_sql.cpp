@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a statement: the lexer loses nothing, and the text is bound or refused with a message.
 #include "tests/vortaq/sql/testcatalog.h"
-#include "vortaq/sql/lexer.h"
+#include "vortaq/SqlError.h"
+#include "vortaq/sql/Lexer.h"
 #include "vortaq/sql/prepare.h"
-#include "vortaq/sqlerror.h"
 
 #include <cstddef>
 #include <cstdint>

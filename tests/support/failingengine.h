@@ -2,7 +2,7 @@
 // A real engine that refuses one statement on demand.
 #pragma once
 
-#include "vortaq/engine.h"
+#include "vortaq/Engine.h"
 
 #include <functional>
 #include <memory>

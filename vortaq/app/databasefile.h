@@ -2,7 +2,7 @@
 // Where the database lies and how it is opened.
 #pragma once
 
-#include "vortaq/engine.h"
+#include "vortaq/Engine.h"
 
 #include <QString>
 

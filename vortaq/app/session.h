@@ -2,7 +2,7 @@
 // One clerk at work: the connection, who he is, and the host parameters that hold for him.
 #pragma once
 
-#include "vortaq/engine.h"
+#include "vortaq/Engine.h"
 
 #include <QHash>
 #include <QString>

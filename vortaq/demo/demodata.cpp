@@ -2,13 +2,13 @@
 // Makes the file and fills it in one transaction.
 #include "vortaq/demo/demodata.h"
 
-#include "vortaq/demo/connection.h"
+#include "vortaq/SqlError.h"
+#include "vortaq/demo/databasewriting.h"
 #include "vortaq/demo/procedures.h"
 #include "vortaq/demo/random.h"
 #include "vortaq/demo/recordwriter.h"
 #include "vortaq/demo/referencetables.h"
 #include "vortaq/schema/schema.h"
-#include "vortaq/sqlerror.h"
 
 #include <QCoreApplication>
 #include <QDir>

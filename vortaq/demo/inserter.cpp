@@ -2,7 +2,7 @@
 // Binding of values to a prepared insert.
 #include "vortaq/demo/inserter.h"
 
-#include "vortaq/demo/connection.h"
+#include "vortaq/demo/databasewriting.h"
 
 #include <sqlite3.h>
 

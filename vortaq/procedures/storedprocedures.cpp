@@ -2,7 +2,7 @@
 // Finds a procedure, fills its arguments in and asks the engine.
 #include "vortaq/procedures/storedprocedures.h"
 
-#include "vortaq/engine.h"
+#include "vortaq/Engine.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 // Stored procedures for databases that have none: one query a procedure, kept as text in the table v_Procedure.
 #pragma once
 
-#include "vortaq/procedures/procedurecall.h"
+#include "vortaq/procedures/ProcedureCall.h"
 
 namespace vortaq {
 

@@ -2,7 +2,7 @@
 // Refusals that name the place in the statement.
 #pragma once
 
-#include "vortaq/sqlerror.h"
+#include "vortaq/SqlError.h"
 
 #include <cstddef>
 #include <string>

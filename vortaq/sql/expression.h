@@ -3,7 +3,7 @@
 // whoever writes text from it never decides on types.
 #pragma once
 
-#include "vortaq/sql/type.h"
+#include "vortaq/sql/Type.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The reserved words of T-SQL.
-#include "vortaq/sql/catalog.h"
-#include "vortaq/sql/token.h"
+#include "vortaq/sql/Catalog.h"
+#include "vortaq/sql/Token.h"
 
 #include <algorithm>
 #include <array>

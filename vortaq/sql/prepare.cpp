@@ -2,9 +2,9 @@
 // Parses, checks what is due, binds, drops needless joins.
 #include "vortaq/sql/prepare.h"
 
-#include "vortaq/sql/binder.h"
+#include "vortaq/sql/bind.h"
 #include "vortaq/sql/diagnostic.h"
-#include "vortaq/sql/parser.h"
+#include "vortaq/sql/parse.h"
 #include "vortaq/sql/semijoin.h"
 
 namespace vortaq::sql {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vortaq/sql/semijoin.h"
 
-#include "vortaq/sql/sourcereads.h"
+#include "vortaq/sql/SourceReads.h"
 
 #include <algorithm>
 #include <iterator>

@@ -2,7 +2,7 @@
 // A bound statement: names resolved, types settled, conversions written out. Tables are borrowed from the catalogue.
 #pragma once
 
-#include "vortaq/sql/catalog.h"
+#include "vortaq/sql/Catalog.h"
 #include "vortaq/sql/condition.h"
 #include "vortaq/sql/expression.h"
 

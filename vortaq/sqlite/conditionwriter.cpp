@@ -2,7 +2,7 @@
 // Conditions.
 #include "vortaq/sqlite/statementwriter.h"
 
-#include "vortaq/sqlite/catalogreader.h"
+#include "vortaq/sqlite/CatalogReader.h"
 
 #include <array>
 

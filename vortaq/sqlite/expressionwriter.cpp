@@ -2,8 +2,8 @@
 // Values.
 #include "vortaq/sqlite/statementwriter.h"
 
-#include "vortaq/sqlerror.h"
-#include "vortaq/sqlite/catalogreader.h"
+#include "vortaq/SqlError.h"
+#include "vortaq/sqlite/CatalogReader.h"
 #include "vortaq/sqlite/conversion.h"
 
 #include <algorithm>

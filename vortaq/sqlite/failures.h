@@ -2,7 +2,7 @@
 // From SQLite's result codes to messages for a clerk.
 #pragma once
 
-#include "vortaq/sqlerror.h"
+#include "vortaq/SqlError.h"
 
 #include <optional>
 

@@ -2,8 +2,8 @@
 // Keys into temporary tables.
 #include "vortaq/sqlite/keytables.h"
 
-#include "vortaq/sqlite/connection.h"
-#include "vortaq/sqlite/preparedstatement.h"
+#include "vortaq/sqlite/Connection.h"
+#include "vortaq/sqlite/PreparedStatement.h"
 
 #include <charconv>
 #include <cstdint>

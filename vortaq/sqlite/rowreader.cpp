@@ -2,8 +2,8 @@
 // Cells straight into the packet's arena.
 #include "vortaq/sqlite/rowreader.h"
 
+#include "vortaq/sqlite/PreparedStatement.h"
 #include "vortaq/sqlite/functioncall.h"
-#include "vortaq/sqlite/preparedstatement.h"
 
 #include <sqlite3.h>
 

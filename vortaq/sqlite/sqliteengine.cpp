@@ -3,10 +3,10 @@
 #include "vortaq/sqlite/sqliteengine.h"
 
 #include "vortaq/sql/prepare.h"
-#include "vortaq/sqlite/catalogreader.h"
-#include "vortaq/sqlite/connection.h"
+#include "vortaq/sqlite/CatalogReader.h"
+#include "vortaq/sqlite/Connection.h"
+#include "vortaq/sqlite/PreparedStatement.h"
 #include "vortaq/sqlite/keytables.h"
-#include "vortaq/sqlite/preparedstatement.h"
 #include "vortaq/sqlite/rowreader.h"
 #include "vortaq/sqlite/statementwriter.h"
 #include "vortaq/sqlite/transaction.h"

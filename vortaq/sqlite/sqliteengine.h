@@ -2,7 +2,7 @@
 // A SQLite file as a database of the host.
 #pragma once
 
-#include "vortaq/engine.h"
+#include "vortaq/Engine.h"
 
 #include <QDateTime>
 #include <QString>

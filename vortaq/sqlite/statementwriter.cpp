@@ -2,7 +2,7 @@
 // Statements and their clauses.
 #include "vortaq/sqlite/statementwriter.h"
 
-#include "vortaq/sqlite/catalogreader.h"
+#include "vortaq/sqlite/CatalogReader.h"
 
 namespace vortaq::sqlite {
 

@@ -2,7 +2,7 @@
 // Begin, commit, roll back.
 #include "vortaq/sqlite/transaction.h"
 
-#include "vortaq/sqlite/connection.h"
+#include "vortaq/sqlite/Connection.h"
 
 namespace vortaq::sqlite {
 

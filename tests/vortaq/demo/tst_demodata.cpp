@@ -2,8 +2,8 @@
 // The file itself: complete or absent, and the same for the same options.
 #include "tests/vortaq/demo/demodatabase.h"
 
+#include "vortaq/SqlError.h"
 #include "vortaq/schema/schema.h"
-#include "vortaq/sqlerror.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Calls of stored procedures, taken to pieces.
-#include "vortaq/procedures/procedurecall.h"
+#include "vortaq/procedures/ProcedureCall.h"
 
-#include "vortaq/sqlerror.h"
+#include "vortaq/SqlError.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // Stored procedures: arguments in their places, failures, and the settlement procedures of the demo county.
 #include "vortaq/procedures/storedprocedures.h"
 
+#include "vortaq/Engine.h"
 #include "vortaq/demo/demodata.h"
-#include "vortaq/engine.h"
 #include "vortaq/sqlite/sqliteengine.h"
 
 #include <QTemporaryDir>

@@ -2,7 +2,7 @@
 // The tables that the corpus of statements speaks of.
 #pragma once
 
-#include "vortaq/sql/catalog.h"
+#include "vortaq/sql/Catalog.h"
 
 namespace vortaq::sql::test {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Declared types and names in any letter case.
-#include "vortaq/sql/catalog.h"
+#include "vortaq/sql/Catalog.h"
 
 #include <gtest/gtest.h>
 

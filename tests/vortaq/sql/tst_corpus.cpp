@@ -3,7 +3,7 @@
 #include "tests/vortaq/sql/corpus.h"
 #include "tests/vortaq/sql/dump.h"
 #include "tests/vortaq/sql/testcatalog.h"
-#include "vortaq/sqlerror.h"
+#include "vortaq/SqlError.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // Ticked records written as an OR of their keys become one list of keys, however many.
 #include "tests/vortaq/sql/dump.h"
 #include "tests/vortaq/sql/testcatalog.h"
+#include "vortaq/SqlError.h"
 #include "vortaq/sql/prepare.h"
-#include "vortaq/sqlerror.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Tokens: nothing lost, positions right, names of any script, mistakes named with their place.
 #include "tests/vortaq/sql/corpus.h"
+#include "vortaq/SqlError.h"
+#include "vortaq/sql/Lexer.h"
 #include "vortaq/sql/character.h"
-#include "vortaq/sql/lexer.h"
-#include "vortaq/sqlerror.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Long statements are normal; deep ones are refused before the stack is in danger.
 #include "tests/vortaq/sql/testcatalog.h"
-#include "vortaq/sql/parser.h"
+#include "vortaq/SqlError.h"
+#include "vortaq/sql/parse.h"
 #include "vortaq/sql/prepare.h"
-#include "vortaq/sqlerror.h"
 
 #include <gtest/gtest.h>
 

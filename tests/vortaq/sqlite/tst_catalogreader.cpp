@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The catalogue is what the database itself declares.
-#include "vortaq/sqlite/catalogreader.h"
+#include "vortaq/sqlite/CatalogReader.h"
 
 #include "tests/vortaq/sqlite/testdatabase.h"
-#include "vortaq/sqlite/connection.h"
+#include "vortaq/sqlite/Connection.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // What the clerk is told when the database does not do as it should.
 #include "tests/vortaq/sqlite/testdatabase.h"
 
-#include "vortaq/sqlite/connection.h"
+#include "vortaq/sqlite/Connection.h"
 
 #include <QFile>
 

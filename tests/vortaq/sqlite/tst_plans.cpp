@@ -2,10 +2,10 @@
 // Lists stay fast however many records there are: what is written for SQLite goes through the indexes.
 #include "tests/vortaq/sql/corpus.h"
 #include "tests/vortaq/sqlite/testdatabase.h"
-#include "vortaq/sqlite/catalogreader.h"
-#include "vortaq/sqlite/connection.h"
+#include "vortaq/sqlite/CatalogReader.h"
+#include "vortaq/sqlite/Connection.h"
+#include "vortaq/sqlite/PreparedStatement.h"
 #include "vortaq/sqlite/keytables.h"
-#include "vortaq/sqlite/preparedstatement.h"
 #include "vortaq/sqlite/statementwriter.h"
 
 #include <gtest/gtest.h>

@@ -4,8 +4,8 @@
 
 #include "tests/vortaq/sqlite/testdatabase.h"
 #include "vortaq/sql/prepare.h"
-#include "vortaq/sqlite/catalogreader.h"
-#include "vortaq/sqlite/connection.h"
+#include "vortaq/sqlite/CatalogReader.h"
+#include "vortaq/sqlite/Connection.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // An engine that answers from a list, for tests of the host without a database.
 #pragma once
 
-#include "vortaq/engine.h"
+#include "vortaq/Engine.h"
 
 #include <QHash>
 #include <QString>
