@@ -2,7 +2,7 @@
 // SQLite as the demo generator uses it.
 #include "vortaq/demo/databasewriting.h"
 
-#include "vortaq/sqlite/failures.h"
+#include "vortaq/sqlite/resultcodes.h"
 
 #include <sqlite3.h>
 

@@ -5,6 +5,7 @@
 #include "vortaq/sqlite/PreparedStatement.h"
 #include "vortaq/sqlite/collation.h"
 #include "vortaq/sqlite/functions.h"
+#include "vortaq/sqlite/resultcodes.h"
 
 #include <QFileInfo>
 
@@ -72,9 +73,9 @@ void Connection::run(std::string_view text)
     PreparedStatement(*this, text).step();
 }
 
-bool Connection::commitsByItself() const noexcept
+bool Connection::isWriting() const
 {
-    return sqlite3_get_autocommit(handle()) != 0;
+    return sqlite3_get_autocommit(handle()) == 0;
 }
 
 int Connection::changedRows() const noexcept

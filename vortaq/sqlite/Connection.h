@@ -2,7 +2,8 @@
 // An open database file, set up so that statements mean what they mean on the server.
 #pragma once
 
-#include "vortaq/sqlite/failures.h"
+#include "vortaq/engines/Transaction.h"
+#include "vortaq/sqlite/FunctionFailure.h"
 
 #include <QString>
 
@@ -14,7 +15,7 @@ struct sqlite3;
 
 namespace vortaq::sqlite {
 
-class Connection {
+class Connection final : public engines::TransactionVerbs {
 public:
     struct Settings {
         bool readOnly = false;
@@ -29,8 +30,10 @@ public:
     /// Runs one statement of the engine's own that returns nothing. Throws SqlError.
     void run(std::string_view text);
 
-    /// Outside a transaction; also true after the database itself gave a transaction up.
-    [[nodiscard]] bool commitsByItself() const noexcept;
+    void beginWriting() override { run("begin immediate"); }
+    void commitWriting() override { run("commit"); }
+    void undoWriting() override { run("rollback"); }
+    [[nodiscard]] bool isWriting() const override;
     /// Rows touched by the last change.
     [[nodiscard]] int changedRows() const noexcept;
 

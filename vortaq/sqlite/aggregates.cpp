@@ -2,6 +2,7 @@
 // The aggregate functions.
 #include "vortaq/sqlite/functioncall.h"
 #include "vortaq/sqlite/functions.h"
+#include "vortaq/sqlite/resultcodes.h"
 
 #include <array>
 #include <bit>

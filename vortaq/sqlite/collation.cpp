@@ -2,7 +2,7 @@
 // The comparison behind NOCASE.
 #include "vortaq/sqlite/collation.h"
 
-#include "vortaq/sqlite/failures.h"
+#include "vortaq/sqlite/resultcodes.h"
 
 #include <sqlite3.h>
 

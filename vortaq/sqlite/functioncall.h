@@ -2,8 +2,8 @@
 // What every SQL function written in C++ needs: arguments, and a wall that no exception crosses.
 #pragma once
 
+#include "vortaq/sqlite/FunctionFailure.h"
 #include "vortaq/sqlite/decimal.h"
-#include "vortaq/sqlite/failures.h"
 
 #include <sqlite3.h>
 

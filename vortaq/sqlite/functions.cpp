@@ -5,6 +5,7 @@
 #include "vortaq/sqlite/conversion.h"
 #include "vortaq/sqlite/functioncall.h"
 #include "vortaq/sqlite/likepattern.h"
+#include "vortaq/sqlite/resultcodes.h"
 
 #include <algorithm>
 #include <array>

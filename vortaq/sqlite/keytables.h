@@ -2,7 +2,7 @@
 // Temporary tables that hold the record keys a statement names.
 #pragma once
 
-#include "vortaq/sqlite/statementwriter.h"
+#include "vortaq/sqlite/writestatement.h"
 
 #include <vector>
 

@@ -2,14 +2,14 @@
 // Statement text in, rows out: prepare, write, run.
 #include "vortaq/sqlite/sqliteengine.h"
 
+#include "vortaq/engines/Transaction.h"
 #include "vortaq/sql/prepare.h"
 #include "vortaq/sqlite/CatalogReader.h"
 #include "vortaq/sqlite/Connection.h"
 #include "vortaq/sqlite/PreparedStatement.h"
 #include "vortaq/sqlite/keytables.h"
-#include "vortaq/sqlite/rowreader.h"
-#include "vortaq/sqlite/statementwriter.h"
-#include "vortaq/sqlite/transaction.h"
+#include "vortaq/sqlite/readrows.h"
+#include "vortaq/sqlite/writestatement.h"
 
 #include <QStringView>
 
@@ -45,7 +45,7 @@ private:
     std::function<QDateTime()> m_clock;
     sqlite::Connection m_connection;
     sqlite::CatalogReader m_catalog;
-    sqlite::Transaction m_transaction;
+    engines::Transaction m_transaction;
 };
 
 sql::Statement SqliteEngine::bind(const QString &sql, sql::Due due)

@@ -6,7 +6,7 @@
 #include "vortaq/sqlite/Connection.h"
 #include "vortaq/sqlite/PreparedStatement.h"
 #include "vortaq/sqlite/keytables.h"
-#include "vortaq/sqlite/statementwriter.h"
+#include "vortaq/sqlite/writestatement.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The text that SQLite gets to see.
-#include "vortaq/sqlite/statementwriter.h"
+#include "vortaq/sqlite/writestatement.h"
 
 #include "tests/vortaq/sqlite/testdatabase.h"
 #include "vortaq/sql/prepare.h"
