@@ -7,8 +7,8 @@
 
 namespace vortaq {
 
-/// `what()` is a UTF-8 message in Chinese for the clerk. Whoever must tell
-/// kinds apart asks reason().
+/// `what()` is a UTF-8 message in Chinese for the clerk: what happened in the first line, and where below it, as far as
+/// it is known. Whoever must tell kinds apart asks reason().
 class SqlError : public std::runtime_error {
 public:
     enum class Reason {

@@ -2,6 +2,8 @@
 // Messages with line and column.
 #include "vortaq/sql/diagnostic.h"
 
+#include "vortaq/sql/excerpt.h"
+
 #include <algorithm>
 
 namespace vortaq::sql {
@@ -12,6 +14,12 @@ std::string placeText(std::string_view text, std::size_t offset)
 {
     const Place place = placeOf(text, offset);
     return "（第" + std::to_string(place.line) + "行第" + std::to_string(place.column) + "列）";
+}
+
+[[noreturn]] void fail(SqlError::Reason reason, std::string message, std::string_view text, std::size_t offset)
+{
+    const std::string shown = excerpt(text, offset);
+    throw SqlError(reason, shown.empty() ? message : message + "\n" + shown);
 }
 
 bool startsCharacter(char c)
@@ -37,12 +45,18 @@ Place placeOf(std::string_view text, std::size_t offset)
 
 void failSyntax(std::string_view text, std::size_t offset, std::string_view detail)
 {
-    throw SqlError(SqlError::Reason::Syntax, "语法错误" + placeText(text, offset) + "：" + std::string(detail));
+    fail(SqlError::Reason::Syntax, "语法错误" + placeText(text, offset) + "：" + std::string(detail), text, offset);
 }
 
 void failAt(SqlError::Reason reason, std::string_view text, std::size_t offset, std::string_view message)
 {
-    throw SqlError(reason, std::string(message) + placeText(text, offset));
+    fail(reason, std::string(message) + placeText(text, offset), text, offset);
+}
+
+void failWhole(std::string_view text, std::string_view message)
+{
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    fail(SqlError::Reason::Syntax, std::string(message), text, std::min(first, text.size()));
 }
 
 std::string quoted(std::string_view word)

@@ -13,9 +13,9 @@ Statement prepare(std::string_view text, const Catalog &catalog, Due due)
 {
     const ast::Tree tree = parse(text);
     if (due == Due::Query && !tree.isQuery())
-        throw SqlError(SqlError::Reason::Syntax, "此处只能执行查询语句");
+        failWhole(text, "此处只能执行查询语句");
     if (due == Due::Change && tree.isQuery())
-        throw SqlError(SqlError::Reason::Syntax, "此处不能执行查询语句");
+        failWhole(text, "此处不能执行查询语句");
     Statement statement = bind(tree, text, catalog);
     reduceToSemiJoins(statement);
     return statement;

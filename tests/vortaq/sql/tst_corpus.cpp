@@ -2,8 +2,8 @@
 // Whole statements: those that bind, those that are refused and why, and bound trees compared as text.
 #include "tests/vortaq/sql/corpus.h"
 #include "tests/vortaq/sql/dump.h"
+#include "tests/vortaq/sql/refusal.h"
 #include "tests/vortaq/sql/testcatalog.h"
-#include "vortaq/SqlError.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ std::string outcome(const test::CorpusEntry &entry, SqlError::Reason *reason = n
     } catch (const SqlError &error) {
         if (reason)
             *reason = error.reason();
-        return error.what();
+        return test::firstLineOf(error);
     }
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Ticked records written as an OR of their keys become one list of keys, however many.
 #include "tests/vortaq/sql/dump.h"
+#include "tests/vortaq/sql/refusal.h"
 #include "tests/vortaq/sql/testcatalog.h"
-#include "vortaq/SqlError.h"
 #include "vortaq/sql/prepare.h"
 
 #include <gtest/gtest.h>
@@ -149,7 +149,7 @@ TEST(KeyList, WhatIsNoNumberIsRefusedAtItsPlace)
             return whereOf(before + memberNumber + " and DiagNo=1)");
         } catch (const SqlError &error) {
             const std::string place = std::to_string(fragment.size() + before.size() + 1);
-            EXPECT_TRUE(std::string(error.what()).ends_with("（第1行第" + place + "列）")) << error.what();
+            EXPECT_TRUE(test::firstLineOf(error).ends_with("（第1行第" + place + "列）")) << error.what();
             return std::string(error.reason() == SqlError::Reason::Binding ? "binding" : "conversion");
         }
     };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Tokens: nothing lost, positions right, names of any script, mistakes named with their place.
 #include "tests/vortaq/sql/corpus.h"
-#include "vortaq/SqlError.h"
+#include "tests/vortaq/sql/refusal.h"
 #include "vortaq/sql/Lexer.h"
 #include "vortaq/sql/character.h"
 
@@ -28,7 +28,7 @@ std::string refusalOf(std::string_view text)
         return std::to_string(tokens.size()) + " tokens";
     } catch (const SqlError &error) {
         EXPECT_EQ(error.reason(), SqlError::Reason::Syntax);
-        return error.what();
+        return test::firstLineOf(error);
     }
 }
 

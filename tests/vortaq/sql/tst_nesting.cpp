@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Long statements are normal; deep ones are refused before the stack is in danger.
+#include "tests/vortaq/sql/refusal.h"
 #include "tests/vortaq/sql/testcatalog.h"
-#include "vortaq/SqlError.h"
 #include "vortaq/sql/parse.h"
 #include "vortaq/sql/prepare.h"
 
@@ -26,7 +26,7 @@ std::string outcome(const std::string &text)
         (void)prepare(text, test::hospitalCatalog(), Due::Query);
         return "bound";
     } catch (const SqlError &error) {
-        const std::string message = error.what();
+        const std::string message = test::firstLineOf(error);
         return message.substr(std::min(message.rfind("："), message.size()));
     }
 }
