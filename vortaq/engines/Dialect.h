@@ -14,6 +14,13 @@ class StatementWriter;
 /// Where a value stands that is compared with others: in front of the sign or the list, or behind it.
 enum class Side { Left, Right };
 
+/// The column that a value goes into.
+struct StoredInto {
+    const sql::CatalogTable &table;
+    std::size_t column = 0; ///< position in the table
+    int source = 0; ///< whose rows are changed; 0 for an insertion
+};
+
 /// Writes the pieces to `out`, each value as one operand: a name, a call or in parentheses. Lives as long as one
 /// statement and may keep what its database needs beside the text. May throw SqlError.
 class Dialect {
@@ -43,9 +50,8 @@ public:
     virtual void inQuery(StatementWriter &out, const sql::InQuery &test) = 0;
     virtual void keyList(StatementWriter &out, const sql::KeyList &keys) = 0;
 
-    /// A value on its way into a column of the table.
-    virtual void stored(StatementWriter &out, const sql::Expr &value, const sql::CatalogTable &table,
-                        std::size_t column) = 0;
+    /// A value on its way into a column; its outermost Conversion may be of the mode Store.
+    virtual void stored(StatementWriter &out, const sql::Expr &value, const StoredInto &into) = 0;
 };
 
 } // namespace vortaq::engines

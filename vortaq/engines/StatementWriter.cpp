@@ -122,7 +122,7 @@ void StatementWriter::update(const sql::Update &update)
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
         const sql::Update::Assignment &assignment = update.assignments[i];
         *this << (i == 0 ? "" : ", ") << m_dialect.name(update.target.table->columns[assignment.column].name) << " = ";
-        m_dialect.stored(*this, *assignment.value, *update.target.table, assignment.column);
+        m_dialect.stored(*this, *assignment.value, {*update.target.table, assignment.column, update.target.number});
     }
     *this << behind;
     where(update.where);
@@ -178,7 +178,7 @@ void StatementWriter::items(const sql::Select &select, const sql::CatalogTable *
         if (into == nullptr)
             *this << *select.items[i].value;
         else
-            m_dialect.stored(*this, *select.items[i].value, *into, columns[i]);
+            m_dialect.stored(*this, *select.items[i].value, {*into, columns[i]});
         *this << " AS c" << static_cast<int>(i);
     }
 }

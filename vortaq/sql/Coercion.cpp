@@ -37,18 +37,6 @@ bool isConvertible(Kind from, Kind to)
     return !(isNumber(from) && isDate(to)) && !(isDate(from) && isNumber(to));
 }
 
-std::string misfitMessage(Misfit misfit, const std::string &text, const Type &to)
-{
-    switch (misfit) {
-    case Misfit::TooLong:
-        return quoted(text) + "太长，最多" + std::to_string(to.size) + "个字符";
-    case Misfit::OutOfRange:
-        return quoted(text) + "超出" + typeName(to) + "的范围";
-    default:
-        return quoted(text) + "不能转换为" + typeName(to);
-    }
-}
-
 } // namespace
 
 std::optional<Type> commonType(const Type &left, const Type &right)

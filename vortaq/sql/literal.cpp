@@ -5,6 +5,7 @@
 #include "vortaq/sql/character.h"
 #include "vortaq/sql/datetext.h"
 #include "vortaq/sql/decimaltext.h"
+#include "vortaq/sql/diagnostic.h"
 
 #include <algorithm>
 
@@ -104,6 +105,18 @@ ConvertedText convertText(const std::string &text, const Type &from, const Type 
         break;
     }
     return {{}, Misfit::NotConvertible};
+}
+
+std::string misfitMessage(Misfit misfit, const std::string &text, const Type &to)
+{
+    switch (misfit) {
+    case Misfit::TooLong:
+        return quoted(text) + "太长，最多" + std::to_string(to.size) + "个字符";
+    case Misfit::OutOfRange:
+        return quoted(text) + "超出" + typeName(to) + "的范围";
+    default:
+        return quoted(text) + "不能转换为" + typeName(to);
+    }
 }
 
 Type typeOfNumber(std::string_view digits)

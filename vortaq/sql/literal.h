@@ -20,6 +20,9 @@ struct ConvertedText {
 [[nodiscard]] ConvertedText convertText(const std::string &text, const Type &from, const Type &to,
                                         Conversion::Mode mode);
 
+/// “1x”不能转换为int
+[[nodiscard]] std::string misfitMessage(Misfit misfit, const std::string &text, const Type &to);
+
 /// The type of a written number: Int where it fits, else Decimal. Kind Null when it has too many digits.
 [[nodiscard]] Type typeOfNumber(std::string_view digits);
 /// The characters between the quotes, doubled quotes made single.

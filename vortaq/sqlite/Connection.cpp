@@ -85,10 +85,8 @@ int Connection::changedRows() const noexcept
 
 void Connection::fail(int code)
 {
-    if (const auto error = m_functionFailure.error(); error && (code & 0xFF) == SQLITE_ERROR) {
-        m_functionFailure.clear();
-        throw SqlError(*error);
-    }
+    if (m_functionFailure.isSet() && (code & 0xFF) == SQLITE_ERROR)
+        m_functionFailure.raise();
     throwFailure(handle(), code);
 }
 

@@ -116,7 +116,9 @@ void SqliteDialect::call(Writer &out, const sql::Call &call)
     case sql::Call::Function::Str: {
         const sql::Type &from = call.arguments[0]->type;
         out << "ts_str(" << *call.arguments[0] << ", " << call.width << ", " << call.decimals << ", "
-            << (from.kind == Kind::Float ? call.decimals : from.scale) << ')';
+            << (from.kind == Kind::Float ? call.decimals : from.scale);
+        place(out, out.placeOf(*call.arguments[0]));
+        out << ')';
         break;
     }
     }
@@ -133,7 +135,9 @@ void SqliteDialect::aggregate(Writer &out, const sql::Aggregate &aggregate)
         out << "sum(" << operand << ')';
     } else {
         const bool isInt = operand.type.kind == Kind::Int;
-        out << (isInt ? "ts_int(ts_sum(" : "ts_sum(") << operand << ", " << operand.type.scale << (isInt ? "))" : ")");
+        out << (isInt ? "ts_int(ts_sum(" : "ts_sum(") << operand << ", " << operand.type.scale;
+        place(out, out.placeOf(operand));
+        out << (isInt ? "))" : ")");
     }
 }
 
@@ -178,15 +182,29 @@ void SqliteDialect::inQuery(Writer &out, const sql::InQuery &test)
     out << (test.negated ? " NOT IN (" : " IN (") << *test.subquery.query << "))";
 }
 
-void SqliteDialect::stored(Writer &out, const sql::Expr &value, const sql::CatalogTable &table, std::size_t column)
+void SqliteDialect::stored(Writer &out, const sql::Expr &value, const engines::StoredInto &into)
 {
     const auto *literal = std::get_if<sql::Literal>(&value.node);
     const bool endsClean =
         literal != nullptr && (literal->isNull || literal->text.empty() || literal->text.back() != ' ');
     // Trailing blanks in an index would stand in another order for other tools that open the file.
     const bool trimmed =
-        value.type.kind == Kind::Varchar && !endsClean && CatalogReader::details(table).indexed[column];
+        value.type.kind == Kind::Varchar && !endsClean && CatalogReader::details(into.table).indexed[into.column];
+    m_storing = &into;
     out << (trimmed ? "rtrim(" : "") << value << (trimmed ? ")" : "");
+    m_storing = nullptr;
+}
+
+void SqliteDialect::place(Writer &out, const engines::ValuePlace &place)
+{
+    if (place.column.empty())
+        return;
+    const sql::CatalogTable *table = place.source == 0 ? nullptr : out.source(place.source).table;
+    const bool findable = table != nullptr && CatalogReader::details(*table).hasRowId && !table->primaryKey.empty();
+    out << ", " << static_cast<int>(m_written.places.size());
+    if (findable)
+        out << ", " << engines::sourceName(place.source) << ".rowid";
+    m_written.places.push_back({place.column, findable ? table : nullptr});
 }
 
 } // namespace vortaq::sqlite

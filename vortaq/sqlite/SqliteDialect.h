@@ -3,6 +3,7 @@
 #pragma once
 
 #include "vortaq/engines/Dialect.h"
+#include "vortaq/engines/ValuePlace.h"
 #include "vortaq/sqlite/writestatement.h"
 
 namespace vortaq::sqlite {
@@ -24,12 +25,16 @@ public:
     void like(Writer &out, const sql::Like &like) override;
     void inQuery(Writer &out, const sql::InQuery &test) override;
     void keyList(Writer &out, const sql::KeyList &keys) override;
-    void stored(Writer &out, const sql::Expr &value, const sql::CatalogTable &table, std::size_t column) override;
+    void stored(Writer &out, const sql::Expr &value, const engines::StoredInto &into) override;
 
     /// What was met on the way, with the text.
     [[nodiscard]] WrittenStatement take(std::string text);
 
 private:
+    /// The last arguments of a function that may refuse its value: where the value stands, and in which row.
+    void place(Writer &out, const engines::ValuePlace &place);
+
+    const engines::StoredInto *m_storing = nullptr; // while a value is written that goes into a column
     WrittenStatement m_written; // without its text
 };
 

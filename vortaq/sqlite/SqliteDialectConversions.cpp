@@ -75,7 +75,14 @@ void SqliteDialect::conversion(Writer &out, const sql::Conversion &conversion, c
     if (writePlainly(out, conversion, to))
         return;
     out << "ts_convert(" << *conversion.operand << ", '" << sql::typeName(conversion.operand->type) << "', '"
-        << sql::typeName(to) << "', '" << conversionModeName(conversion.mode) << "')";
+        << sql::typeName(to) << "', '" << conversionModeName(conversion.mode) << '\'';
+    engines::ValuePlace where = out.placeOf(*conversion.operand);
+    if (conversion.mode == sql::Conversion::Mode::Store && m_storing != nullptr) {
+        where.column = m_storing->table.columns[m_storing->column].name;
+        where.source = m_storing->source == 0 ? where.source : m_storing->source;
+    }
+    place(out, where);
+    out << ')';
 }
 
 } // namespace vortaq::sqlite

@@ -34,11 +34,12 @@ template <typename State> State &stateOf(sqlite3_context *context)
     return *state;
 }
 
-void sumStep(sqlite3_context *context, int, sqlite3_value **arguments)
+void sumStep(sqlite3_context *context, int count, sqlite3_value **arguments)
 {
+    constexpr int own = 2;
     if (isNull(arguments[0]))
         return;
-    guardedCall(context, [&] {
+    guardedCall(context, behind(own, count, arguments), [&] {
         auto &sum = stateOf<Sum>(context);
         sum.scale = sqlite3_value_int(arguments[1]);
         const Units units = std::bit_cast<Units>(sum.units) + unitsOfValue(arguments[0], sum.scale);
@@ -54,7 +55,7 @@ void sumFinal(sqlite3_context *context)
     const auto *sum = static_cast<const Sum *>(sqlite3_aggregate_context(context, 0));
     if (sum == nullptr || !sum->any)
         return;
-    guardedCall(context, [&] {
+    guardedCall(context, {}, [&] {
         const auto units = std::bit_cast<Units>(sum->units);
         const auto number = exactNumber(units, sum->scale);
         if (!number)
@@ -73,7 +74,7 @@ struct Single {
 
 void singleStep(sqlite3_context *context, int, sqlite3_value **arguments)
 {
-    guardedCall(context, [&] {
+    guardedCall(context, {}, [&] {
         auto &single = stateOf<Single>(context);
         if (single.any)
             throw SqlError(SqlError::Reason::Other, "子查询返回了多个值，此处只允许一个值。");
@@ -106,7 +107,8 @@ void install(sqlite3 *database, FunctionFailure &failure, const char *name, int 
 
 void installAggregates(sqlite3 *database, FunctionFailure &failure)
 {
-    install(database, failure, "ts_sum", 2, sumStep, sumFinal);
+    constexpr int anyNumber = -1;
+    install(database, failure, "ts_sum", anyNumber, sumStep, sumFinal);
     install(database, failure, "ts_single", 1, singleStep, singleFinal);
 }
 

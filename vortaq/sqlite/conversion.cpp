@@ -72,10 +72,7 @@ std::string writtenValue(sqlite3_value *value, const Rule &rule)
 
 [[noreturn]] void refuse(sql::Misfit misfit, const std::string &text, const sql::Type &to)
 {
-    const std::string ending = misfit == sql::Misfit::TooLong ? "太长，最多" + std::to_string(to.size) + "个字符"
-        : misfit == sql::Misfit::OutOfRange                   ? "超出" + sql::typeName(to) + "的范围"
-                                                              : "不能转换为" + sql::typeName(to);
-    throw SqlError(SqlError::Reason::Conversion, "“" + text + "”" + ending + "。");
+    throw SqlError(SqlError::Reason::Conversion, sql::misfitMessage(misfit, text, to) + "。");
 }
 
 template <typename Number> Number numberIn(const std::string &text)

@@ -9,7 +9,7 @@ struct sqlite3_value;
 
 namespace vortaq::sqlite {
 
-/// ts_convert(value, from, to, mode): the types as sql::typeName() writes them, the mode as conversionModeName().
+/// ts_convert(value, from, to, mode ..): the types as sql::typeName() writes them, the mode as conversionModeName().
 /// Follows the rules for written values (sql::convertText), so that a value means the same wherever it comes from.
 /// Throws SqlError(Conversion).
 void convertValue(sqlite3_context *context, sqlite3_value **arguments);

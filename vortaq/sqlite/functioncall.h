@@ -9,6 +9,8 @@
 
 #include <exception>
 #include <new>
+#include <optional>
+#include <span>
 #include <string_view>
 
 namespace vortaq::sqlite {
@@ -33,13 +35,23 @@ inline void returnText(sqlite3_context *context, std::string_view text)
     sqlite3_result_text64(context, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
 }
 
+/// Arguments behind a function's own: where its value stands, or nothing.
+using PlaceArguments = std::span<sqlite3_value *const>;
+
+[[nodiscard]] inline PlaceArguments behind(int own, int count, sqlite3_value **arguments)
+{
+    return PlaceArguments(arguments, static_cast<std::size_t>(count)).subspan(static_cast<std::size_t>(own));
+}
+
+[[nodiscard]] std::optional<FailedValue> failedValue(PlaceArguments place);
+
 /// Runs `body`; SQLite is C and must be told of errors by its own means.
-template <typename Body> void guardedCall(sqlite3_context *context, Body &&body)
+template <typename Body> void guardedCall(sqlite3_context *context, PlaceArguments place, Body &&body)
 {
     try {
         body();
     } catch (const SqlError &error) {
-        static_cast<FunctionFailure *>(sqlite3_user_data(context))->set(error);
+        static_cast<FunctionFailure *>(sqlite3_user_data(context))->set(error, failedValue(place));
         sqlite3_result_error(context, error.what(), -1);
     } catch (const std::bad_alloc &) {
         sqlite3_result_error_nomem(context);

@@ -62,11 +62,13 @@ void callLike(sqlite3_context *context, Arguments arguments)
         sqlite3_result_int(context, matchesLike(textOf(arguments[0]), textOf(arguments[1])) ? 1 : 0);
 }
 
-template <Body body> void nullOrCall(sqlite3_context *context, int, Arguments arguments)
+template <int own, Body body> void nullOrCall(sqlite3_context *context, int count, Arguments arguments)
 {
     if (!isNull(arguments[0]))
-        guardedCall(context, [&] { body(context, arguments); });
+        guardedCall(context, behind(own, count, arguments), [&] { body(context, arguments); });
 }
+
+constexpr int anyNumber = -1;
 
 struct Function {
     const char *name;
@@ -74,10 +76,10 @@ struct Function {
     void (*call)(sqlite3_context *, int, Arguments);
 };
 
-constexpr std::array<Function, 4> scalarFunctions = {{{"ts_convert", 4, nullOrCall<convertValue>},
-                                                      {"ts_int", 1, nullOrCall<callInt>},
-                                                      {"ts_str", 4, nullOrCall<callStr>},
-                                                      {"ts_like", 2, nullOrCall<callLike>}}};
+constexpr std::array<Function, 4> scalarFunctions = {{{"ts_convert", anyNumber, nullOrCall<4, convertValue>},
+                                                      {"ts_int", 1, nullOrCall<1, callInt>},
+                                                      {"ts_str", anyNumber, nullOrCall<4, callStr>},
+                                                      {"ts_like", 2, nullOrCall<2, callLike>}}};
 
 } // namespace
 
@@ -90,6 +92,16 @@ Units unitsOfValue(sqlite3_value *value, int scale)
     if (!units)
         throw SqlError(SqlError::Reason::Conversion, "“" + std::string(textOf(value)) + "”不是可用的数值。");
     return *units;
+}
+
+std::optional<FailedValue> failedValue(PlaceArguments place)
+{
+    if (place.empty())
+        return std::nullopt;
+    FailedValue result{static_cast<std::size_t>(sqlite3_value_int64(place[0])), std::nullopt};
+    if (place.size() > 1 && !isNull(place[1]))
+        result.row = sqlite3_value_int64(place[1]);
+    return result;
 }
 
 void installScalarFunctions(sqlite3 *database, FunctionFailure &failure)

@@ -7,6 +7,7 @@
 #include "vortaq/sqlite/CatalogReader.h"
 #include "vortaq/sqlite/Connection.h"
 #include "vortaq/sqlite/PreparedStatement.h"
+#include "vortaq/sqlite/failedvalue.h"
 #include "vortaq/sqlite/keytables.h"
 #include "vortaq/sqlite/readrows.h"
 #include "vortaq/sqlite/writestatement.h"
@@ -40,6 +41,8 @@ private:
     sql::Statement bind(const QString &sql, sql::Due due);
     /// Ready to step; `now` holds the moment as long as the statement lives.
     sqlite::PreparedStatement prepare(const sqlite::WrittenStatement &written, const std::string &now);
+    /// Errors tell where the value stands that they are about.
+    template <typename Action> auto run(const sqlite::WrittenStatement &written, Action action);
     std::string now() const { return m_clock().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toStdString(); }
 
     std::function<QDateTime()> m_clock;
@@ -64,22 +67,34 @@ sqlite::PreparedStatement SqliteEngine::prepare(const sqlite::WrittenStatement &
     return statement;
 }
 
+template <typename Action> auto SqliteEngine::run(const sqlite::WrittenStatement &written, Action action)
+{
+    const std::string moment = now();
+    try {
+        sqlite::PreparedStatement statement = prepare(written, moment);
+        return action(statement);
+    } catch (const sqlite::ValueError &error) {
+        throw sqlite::withPlace(error, written, m_connection);
+    }
+}
+
 automation::DataPacketPtr SqliteEngine::query(const QString &sql)
 {
     if (QStringView(sql).trimmed().isEmpty())
         return automation::DataPacketBuilder({}).finish();
     const sql::Statement bound = bind(sql, sql::Due::Query);
-    const std::string moment = now();
-    sqlite::PreparedStatement statement = prepare(sqlite::writeStatement(bound), moment);
-    return sqlite::readRows(statement, std::get<sql::Query>(bound.node).columns);
+    return run(sqlite::writeStatement(bound), [&bound](sqlite::PreparedStatement &statement) {
+        return sqlite::readRows(statement, std::get<sql::Query>(bound.node).columns);
+    });
 }
 
 int SqliteEngine::execute(const QString &sql)
 {
     const sql::Statement bound = bind(sql, sql::Due::Change);
-    const std::string moment = now();
-    prepare(sqlite::writeStatement(bound), moment).step();
-    return m_connection.changedRows();
+    return run(sqlite::writeStatement(bound), [this](sqlite::PreparedStatement &statement) {
+        statement.step();
+        return m_connection.changedRows();
+    });
 }
 
 } // namespace

@@ -15,9 +15,16 @@ struct WrittenKeys {
     const sql::KeyList *keys = nullptr; ///< of the statement, borrowed
 };
 
+/// Where a value stands that a function of functions.h may refuse.
+struct WrittenPlace {
+    std::string column;
+    const sql::CatalogTable *table = nullptr; ///< whose row the function is told the rowid of; null for none
+};
+
 struct WrittenStatement {
     std::string text;
     std::vector<WrittenKeys> keyTables;
+    std::vector<WrittenPlace> places; ///< the text refers to them by position
     bool readsClock = false; ///< then parameter 1 is the present moment, "yyyy-mm-dd hh:mm:ss.fff"
 };
 

@@ -186,14 +186,15 @@ TEST_P(Refuses, WithReason)
 INSTANTIATE_TEST_SUITE_P(
     , Refuses,
     testing::Values(
-        Row{"TextThatIsNoNumber", "select Id from t where Txt=7", "Conversion: “Abc”不能转换为int。"},
-        Row{"TextThatIsNoDate", "select Id from t where Day=Txt", "Conversion: “Abc”不能转换为date。"},
-        Row{"TextThatIsNoAmount", "select Id from t where Amt=Plain", "Conversion: “Abc”不能转换为decimal(15,2)。"},
+        Row{"TextThatIsNoNumber", "select Id from t where Txt=7", "Conversion: “Abc”不能转换为int。\n所在列：Txt"},
+        Row{"TextThatIsNoDate", "select Id from t where Day=Txt", "Conversion: “Abc”不能转换为date。\n所在列：Txt"},
+        Row{"TextThatIsNoAmount", "select Id from t where Amt=Plain",
+            "Conversion: “Abc”不能转换为decimal(15,2)。\n所在列：Plain"},
         Row{"IntOverflow", "select Num+2147483647 from t where Id=1", "Conversion: 数值“2147483657”超出了范围。"},
         Row{"SumOverflow", "select sum(Num+2147483630) from t where Id in (1,4)",
             "Conversion: 数值“4294967277”超出了范围。"},
         Row{"NumberTooLongForItsCast", "select cast(Amt as varchar(3)) from t where Id=1",
-            "Conversion: “0.10”超出varchar(3)的范围。"},
+            "Conversion: “0.10”超出varchar(3)的范围。\n所在列：Amt"},
         Row{"SeveralRowsInAScalarSubquery", "select (select Len from word)",
             "Other: 子查询返回了多个值，此处只允许一个值。"},
         Row{"SeveralRowsPerRecord", "select (select Len from word where word.Len<t.Num) from t where Id=1",
@@ -206,8 +207,10 @@ TEST(ForeignValues, TextInAnAmountIsRefused)
     TestDatabase database;
     database.run("insert into o_CbZyZdb (BillCode,BillNo,Fee,CanFreeFee) values ('1',1,'abc',' 1.5 ')");
     const auto engine = database.open();
-    EXPECT_EQ(errorOf([&] { ask(*engine, "select Fee from o_CbZyZdb"); }), "Conversion: “abc”不是可用的数值。");
-    EXPECT_EQ(errorOf([&] { ask(*engine, "select sum(Fee) from o_CbZyZdb"); }), "Conversion: “abc”不是可用的数值。");
+    EXPECT_EQ(errorOf([&] { ask(*engine, "select Fee from o_CbZyZdb"); }),
+              "Conversion: “abc”不是可用的数值。\n所在列：Fee");
+    EXPECT_EQ(errorOf([&] { ask(*engine, "select sum(Fee) from o_CbZyZdb"); }),
+              "Conversion: “abc”不是可用的数值。\n所在列：Fee\n所在行：BillCode=1，BillNo=1");
     EXPECT_EQ(ask(*engine, "select CanFreeFee,Str(CanFreeFee,8,2) from o_CbZyZdb"), "1.50|    1.50");
 }
 
@@ -241,7 +244,7 @@ protected:
 
 TEST_F(Storing, LongTextIsRefused)
 {
-    EXPECT_EQ(store("Txt", "Txt", "Amt=12345.675"), "Conversion: “张三李四王五”太长，最多4个字符。");
+    EXPECT_EQ(store("Txt", "Txt", "Amt=12345.675"), "Conversion: “张三李四王五”太长，最多4个字符。\n所在列：Txt");
     EXPECT_EQ(stored("count(*)"), "0");
 }
 
@@ -259,7 +262,7 @@ TEST_F(Storing, AmountsRoundHalvesAwayFromZero)
 
 TEST_F(Storing, AmountsOutOfRangeAreRefused)
 {
-    EXPECT_EQ(store("Amt", "Amt", "Txt='ab'"), "Conversion: “99999.9950”超出decimal(7,2)的范围。");
+    EXPECT_EQ(store("Amt", "Amt", "Txt='ab'"), "Conversion: “99999.9950”超出decimal(7,2)的范围。\n所在列：Amt");
 }
 
 TEST_F(Storing, AmountsLoseTheirDecimalsInAnInt)
@@ -270,7 +273,7 @@ TEST_F(Storing, AmountsLoseTheirDecimalsInAnInt)
 
 TEST_F(Storing, NumbersOutOfRangeAreRefused)
 {
-    EXPECT_EQ(store("Num", "Amt+3000000000", "Txt='12'"), "Conversion: “3000000001.0050”超出int的范围。");
+    EXPECT_EQ(store("Num", "Amt+3000000000", "Txt='12'"), "Conversion: “3000000001.0050”超出int的范围。\n所在列：Num");
 }
 
 TEST_F(Storing, TextBecomesANumber)

@@ -98,7 +98,7 @@ TEST_F(Transactions, AStatementThatFailsInTheMiddleLeavesNothingBehind)
 {
     m_hospital.database.run(
         "create table t (Txt varchar(20), Num int); insert into t values ('1',1),('2',1),('x',1),('4',1)");
-    EXPECT_EQ(errorOf([&] { change("update t set Num=Txt"); }), "Conversion: “x”不能转换为int。");
+    EXPECT_EQ(errorOf([&] { change("update t set Num=Txt"); }), "Conversion: “x”不能转换为int。\n所在列：Num");
     EXPECT_EQ(ask(m_engine, "select sum(Num) from t"), "4");
 }
 

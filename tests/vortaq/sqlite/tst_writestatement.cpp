@@ -81,9 +81,9 @@ TEST_F(Written, AnAggregateHasOneRowAnyway)
 TEST_F(Written, SumsAreExact)
 {
     EXPECT_EQ(query("select sum(Fee) from o_CbZyBxDjZb"),
-              R"(SELECT ts_sum(s1."Fee", 4) AS c0 FROM "o_CbZyBxDjZb" AS s1)");
+              R"(SELECT ts_sum(s1."Fee", 4, 0, s1.rowid) AS c0 FROM "o_CbZyBxDjZb" AS s1)");
     EXPECT_EQ(query("select sum(IDNo) from o_CbZyBxDjZb"),
-              R"(SELECT ts_int(ts_sum(s1."IDNo", 0)) AS c0 FROM "o_CbZyBxDjZb" AS s1)");
+              R"(SELECT ts_int(ts_sum(s1."IDNo", 0, 0, s1.rowid)) AS c0 FROM "o_CbZyBxDjZb" AS s1)");
 }
 
 TEST_F(Written, ChangesThroughADerivedTable)
@@ -92,8 +92,8 @@ TEST_F(Written, ChangesThroughADerivedTable)
         change("update o_CbZyZdb set o_CbZyZdb.Fee=a.F from (select sum(TotalFee) as F from o_CbZyBxDj a where "
                "a.BillNo=1) a"
                " where o_CbZyZdb.BillNo=1"),
-        R"(UPDATE "o_CbZyZdb" AS s1 SET "Fee" = ts_convert(s2.c0, 'decimal(38,2)', 'decimal(15,2)', 'store') FROM )"
-        R"((SELECT ts_sum(s3."TotalFee", 2) AS c0 FROM "o_CbZyBxDj" AS s3 WHERE (s3."BillNo" = 1)) AS s2 WHERE (s1."BillNo" = 1))");
+        R"(UPDATE "o_CbZyZdb" AS s1 SET "Fee" = ts_convert(s2.c0, 'decimal(38,2)', 'decimal(15,2)', 'store', 1, s1.rowid) FROM )"
+        R"((SELECT ts_sum(s3."TotalFee", 2, 0, s3.rowid) AS c0 FROM "o_CbZyBxDj" AS s3 WHERE (s3."BillNo" = 1)) AS s2 WHERE (s1."BillNo" = 1))");
 }
 
 TEST_F(Written, OnlyIndexedTextIsTrimmed)
