@@ -21,6 +21,12 @@ MAY_INCLUDE = {folder: levels_below(folder) for folder in LEVELS}
 MAY_INCLUDE["automation"] = set()
 MAY_INCLUDE["vortaq"] = {"automation"}
 ALLOWED_HEADERS = {"vortaq": {"module/tarnwell_module.h"}, "print": {"samples/feeinterface/feeinterface.h"}}
+# The same within the reference host. SqlError.h and Engine.h, what all of them share, stand above these folders.
+HOST_LEVELS = {"sql": set(), "schema": set(), "engines": {"sql"}, "sqlite": {"sql", "engines"}, "procedures": set(),
+               "demo": {"schema", "sqlite"}, "app": {"sql", "schema", "engines", "sqlite", "procedures", "demo"}}
+# Only an engine speaks to its database's own library; the dialect's front end gets by without Qt, too.
+DATABASE_HEADERS = re.compile(r"(sqlite3|libpq-fe|sql|sqlext)\.h$")
+DATABASE_FOLDERS = {"schema", "sqlite", "demo"}
 # Tests, benchmarks and fuzz targets look into everything.
 UNBOUND = {"tests", "bench", "fuzz", "samples"}
 
@@ -35,6 +41,7 @@ OPERATIONS = {"OpenSql", "CloseSql", "execSql", "BeginTran", "CommitTran", "Roll
 
 HEADER_LINES, SOURCE_LINES, FUNCTION_LINES = 120, 450, 60
 
+ANY_INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]')
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 GENERATED = re.compile(r"(^|/)ui_\w+\.h$|\.moc$|(^|/)moc_\w+\.cpp$")
@@ -67,6 +74,22 @@ def check_include(folder, target):
     if reached not in MAY_INCLUDE[folder]:
         return f"{folder} may not include {reached}"
     return None
+
+
+def check_host_include(path, line):
+    """What folders of the reference host may not include of one another, of databases' libraries and of Qt."""
+    parts = path.split("/")
+    include = ANY_INCLUDE.match(line)
+    if not include or parts[0] != "vortaq" or len(parts) < 3 or parts[1] not in HOST_LEVELS:
+        return
+    folder, target = parts[1], include[1]
+    reached = target.split("/")
+    if reached[0] == "vortaq" and len(reached) > 2 and reached[1] != folder and reached[1] not in HOST_LEVELS[folder]:
+        yield f"vortaq/{folder} may not include vortaq/{reached[1]}"
+    if DATABASE_HEADERS.match(target) and folder not in DATABASE_FOLDERS:
+        yield f"vortaq/{folder} knows no database's own library"
+    if folder == "sql" and re.match(r"Q[A-Z]|Qt", target):
+        yield "vortaq/sql gets by without Qt"
 
 
 def check_line(folder, line):
@@ -123,7 +146,7 @@ def check_file(path, text, exceptions, has_header):
         yield len(lines), f"{len(lines)} lines; {limit} are the limit"
     yield from check_functions(lines, limits.get("function", FUNCTION_LINES))
     for number, line in enumerate(lines, 1):
-        for finding in check_line(folder, line):
+        for finding in (*check_line(folder, line), *check_host_include(path, line)):
             yield number, finding
 
 

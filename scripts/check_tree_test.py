@@ -52,6 +52,29 @@ class Tree(unittest.TestCase):
                 found = self.findings_of(path, f'#include "{target}"\n')
                 self.assertEqual(found, [f"{path}:3: {expected}"] if expected else [])
 
+    def test_levels_of_the_host(self):
+        rows = [
+            ("vortaq/sql/a.cpp", '"vortaq/sql/x.h"', None),
+            ("vortaq/sql/a.cpp", '"vortaq/SqlError.h"', None),
+            ("vortaq/sql/a.cpp", "<string>", None),
+            ("vortaq/engines/a.cpp", '"vortaq/sql/x.h"', None),
+            ("vortaq/engines/a.cpp", "<QString>", None),
+            ("vortaq/sqlite/a.cpp", '"vortaq/engines/x.h"', None),
+            ("vortaq/sqlite/a.cpp", "<sqlite3.h>", None),
+            ("tests/vortaq/sql/a.cpp", '"vortaq/sqlite/x.h"', None),
+            ("vortaq/sql/a.cpp", '"vortaq/engines/x.h"', "vortaq/sql may not include vortaq/engines"),
+            ("vortaq/engines/a.cpp", '"vortaq/sqlite/x.h"', "vortaq/engines may not include vortaq/sqlite"),
+            ("vortaq/procedures/a.h", '"vortaq/app/x.h"', "vortaq/procedures may not include vortaq/app"),
+            ("vortaq/engines/a.cpp", "<sqlite3.h>", "vortaq/engines knows no database's own library"),
+            ("vortaq/sql/a.cpp", "<libpq-fe.h>", "vortaq/sql knows no database's own library"),
+            ("vortaq/sql/a.h", "<QString>", "vortaq/sql gets by without Qt"),
+            ("vortaq/sql/a.h", "<QtGlobal>", "vortaq/sql gets by without Qt"),
+        ]
+        for path, target, expected in rows:
+            with self.subTest(path=path, target=target):
+                found = self.findings_of(path, f"#pragma once\n#include {target}\n")
+                self.assertEqual(found, [f"{path}:4: {expected}"] if expected else [])
+
     def test_statements(self):
         rows = [
             ("uMain/a.cpp", 'f("Select BillNo From o_x");', True),
