@@ -35,6 +35,8 @@ SqlError failureError(Failure failure, const std::string &detail)
         return {Reason::Other, "无法打开数据库文件。"};
     case Failure::DiskFull:
         return {Reason::Other, "磁盘空间不足，数据没有保存。"};
+    case Failure::CannotWrite:
+        return {Reason::Other, "数据库文件不能再写入，数据没有保存。请检查磁盘、配额和文件大小的限制。"};
     case Failure::InputOutput:
         return {Reason::Other, "读写数据库文件时出错（" + detail + "）。"};
     case Failure::TooLarge:

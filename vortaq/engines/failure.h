@@ -22,6 +22,7 @@ enum class Failure {
     Damaged,
     CannotOpen,
     DiskFull,
+    CannotWrite, ///< a quota, a limit on the size of files, a disk that fails
     InputOutput, ///< detail: the database's number for it
     TooLarge,
     NoSuchObject ///< detail: its name

@@ -72,7 +72,8 @@ SqlError errorOf(int code, const std::string &message)
     case SQLITE_FULL:
         return failureError(Failure::DiskFull);
     case SQLITE_IOERR:
-        return failureError(Failure::InputOutput, std::to_string(code));
+        return code == SQLITE_IOERR_WRITE ? failureError(Failure::CannotWrite)
+                                          : failureError(Failure::InputOutput, std::to_string(code));
     case SQLITE_TOOBIG:
         return failureError(Failure::TooLarge);
     default:

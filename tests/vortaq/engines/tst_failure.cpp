@@ -39,6 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{Failure::Damaged, Reason::NotADatabase, "数据库文件已损坏。"},
                     Row{Failure::CannotOpen, Reason::Other, "无法打开数据库文件。"},
                     Row{Failure::DiskFull, Reason::Other, "磁盘空间不足，数据没有保存。"},
+                    Row{Failure::CannotWrite, Reason::Other,
+                        "数据库文件不能再写入，数据没有保存。请检查磁盘、配额和文件大小的限制。"},
                     Row{Failure::InputOutput, Reason::Other, "读写数据库文件时出错（甲）。"},
                     Row{Failure::TooLarge, Reason::Other, "数据过大，无法处理。"},
                     Row{Failure::NoSuchObject, Reason::Binding, "数据库中没有该对象：甲"}));
