@@ -183,14 +183,24 @@ TEST_F(InstitutionSearchTest, onlyInstitutionsOfTheAreaAreOffered)
     EXPECT_EQ(name().text(), QStringLiteral("外县医院"));
 }
 
-TEST_F(InstitutionSearchTest, aCancelledSearchEmptiesBothFields)
+TEST_F(InstitutionSearchTest, aCancelledSearchLeavesBothFieldsAsTheyWere)
 {
     open();
     choose(Qt::Key_1, "", Qt::Key_Escape);
     EXPECT_EQ(m_desk->conversation().take(), lookup(u'1')) << "whatever the look-up holds is taken";
-    EXPECT_EQ(code().text(), QString());
-    EXPECT_EQ(name().text(), QString());
+    EXPECT_EQ(code().text(), QStringLiteral("42990101")) << "the clerk's own";
+    EXPECT_EQ(name().text(), QStringLiteral("甲镇卫生院"));
     EXPECT_EQ(m_desk->form().focusWidget(), &code());
+
+    choose(Qt::Key_0, "2", Qt::Key_Return);
+    choose(Qt::Key_Delete, "", Qt::Key_Escape);
+    EXPECT_EQ(code().text(), QStringLiteral("42990102")) << "the one chosen last";
+    EXPECT_EQ(name().text(), QStringLiteral("乙镇卫生院"));
+
+    m_desk->form().hide();
+    m_desk->form().show();
+    choose(Qt::Key_Delete, "", Qt::Key_Escape);
+    EXPECT_EQ(code().text(), QStringLiteral("42990101")) << "the form has begun anew";
     EXPECT_TRUE(m_desk->errors().isEmpty());
 }
 

@@ -23,7 +23,10 @@ using automation::LateBound;
 class CodeSearchTest : public testing::Test {
 protected:
     CodeSearchTest()
-        : m_search(QStringLiteral("VortaqCore.CodeSearch"))
+        : m_host({},
+                 {{QStringLiteral("OrgCode"), QStringLiteral("4210B1")},
+                  {QStringLiteral("OrgName"), QStringLiteral("本院")}})
+        , m_search(QStringLiteral("VortaqCore.CodeSearch"))
     {
         m_host.engine->answer(statement(),
                               packet({code(), name()},
@@ -178,7 +181,7 @@ TEST_F(CodeSearchTest, EnterOnAnEmptyListDoesNothing)
         EXPECT_TRUE(filter.window()->isVisible());
         QTest::keyClick(&filter, Qt::Key_Escape);
     });
-    EXPECT_EQ(value(code()), QString());
+    EXPECT_EQ(value(code()), QStringLiteral("4210B1"));
 }
 
 TEST_F(CodeSearchTest, ADoubleClickTakesTheRow)
@@ -192,18 +195,49 @@ TEST_F(CodeSearchTest, ADoubleClickTakesTheRow)
     EXPECT_EQ(value(code()), QStringLiteral("4210B1"));
 }
 
-// A module takes whatever stands here also after a cancelled search, so that both fields are emptied together.
-TEST_F(CodeSearchTest, AfterEscapeEveryValueIsEmpty)
+void escape(QLineEdit &filter, QTableView &)
+{
+    QTest::keyClick(&filter, Qt::Key_Escape);
+}
+
+// A module takes over whatever stands here, also after a search that was given up: its field must not change by that.
+TEST_F(CodeSearchTest, GivenUpAtFirstItAnswersTheClerksOwnInstitution)
+{
+    prepare(QStringLiteral("A"));
+    show(escape);
+    EXPECT_EQ(value(code()), QStringLiteral("4210B1"));
+    EXPECT_EQ(value(name()), QStringLiteral("本院"));
+}
+
+TEST_F(CodeSearchTest, GivenUpItAnswersWhatWasChosenLast)
 {
     prepare(QStringLiteral("A"));
     show([](QLineEdit &filter, QTableView &) { QTest::keyClick(&filter, Qt::Key_Return); });
     EXPECT_EQ(value(code()), QStringLiteral("4210A1"));
-    show([](QLineEdit &filter, QTableView &) { QTest::keyClick(&filter, Qt::Key_Escape); });
-    EXPECT_EQ(value(code()), QString());
-    EXPECT_EQ(value(name()), QString());
+    for (int i = 0; i < 2; ++i) {
+        prepare(QStringLiteral("B"));
+        show(escape);
+        EXPECT_EQ(value(code()), QStringLiteral("4210A1"));
+        EXPECT_EQ(value(name()), QStringLiteral("青山镇卫生院"));
+    }
 }
 
-TEST_F(CodeSearchTest, InitForgetsWhatWasChosen)
+TEST_F(CodeSearchTest, AnotherListHasItsOwnLastChoice)
+{
+    const QString doctors =
+        QStringLiteral("select DoctorCode as 代码,DoctorName as 姓名 from p_Doctor order by DoctorCode");
+    m_host.engine->answer(doctors, packet({QStringLiteral("代码"), QStringLiteral("姓名")}, {}));
+    prepare(QStringLiteral("A"));
+    show([](QLineEdit &filter, QTableView &) { QTest::keyClick(&filter, Qt::Key_Return); });
+    call("Init");
+    write("Table", QStringLiteral("p_Doctor"));
+    write("FieldList", QStringLiteral("DoctorCode as 代码,DoctorName as 姓名"));
+    write("CustomField", QStringLiteral("DoctorCode"));
+    show(escape);
+    EXPECT_EQ(value(QStringLiteral("代码")), QString()) << "the host knows no doctor of the clerk's own";
+}
+
+TEST_F(CodeSearchTest, InitForgetsTheAnswer)
 {
     prepare(QStringLiteral("A"));
     show([](QLineEdit &filter, QTableView &) { QTest::keyClick(&filter, Qt::Key_Return); });

@@ -23,6 +23,16 @@ automation::DataPacketPtr load(Engine &engine, const LookupRequest &request)
     return engine.query(lookupStatement(request));
 }
 
+QStringList rowTexts(const automation::DataPacket &rows, int row)
+{
+    QStringList texts;
+    for (int column = 0; column < rows.columnCount(); ++column) {
+        const std::string_view text = rows.text(row, column);
+        texts.append(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    }
+    return texts;
+}
+
 void placeBelow(QDialog &dialog, const QWidget *field, const QPoint &offset)
 {
     if (!field)
@@ -51,7 +61,7 @@ void CodeSearch::Init()
     m_offset = {};
     m_rowHeight = 0;
     m_rows.reset();
-    m_chosenRow = -1;
+    m_values.clear();
 }
 
 void CodeSearch::SetPosition(int x, int y, int rowHeight)
@@ -62,8 +72,8 @@ void CodeSearch::SetPosition(int x, int y, int rowHeight)
 
 void CodeSearch::Show()
 {
-    m_chosenRow = -1;
     m_rows.reset();
+    m_values.clear();
     const LookupRequest request{m_table,     m_where,       m_orderBy,
                                 m_fieldList, m_customField, LookupMatch::fromVariant(m_codeType),
                                 m_code,      m_offset,      m_rowHeight};
@@ -73,19 +83,30 @@ void CodeSearch::Show()
     LookupModel model(m_rows, codeColumn(request), request.match);
     LookupDialog dialog(model, initialFilter(request.code), request.rowHeight, field ? field->window() : nullptr);
     placeBelow(dialog, field, request.offset);
-    if (dialog.exec() == QDialog::Accepted)
-        m_chosenRow = dialog.chosenRow();
+    const QString list = m_table + QLatin1Char('\n') + m_fieldList;
+    if (dialog.exec() == QDialog::Accepted) {
+        m_lastList = list;
+        m_lastValues = rowTexts(*m_rows, dialog.chosenRow());
+    }
+    m_values = m_lastList == list ? m_lastValues : ownValues(lookupFields(request));
+}
+
+QStringList CodeSearch::ownValues(const QStringList &fields) const
+{
+    QStringList values;
+    for (const QString &field : fields)
+        values.append(m_session->parameter(field).toString());
+    return values;
 }
 
 QString CodeSearch::GetCodeValue(const QString &columnName)
 {
-    if (m_chosenRow < 0)
+    if (m_values.isEmpty())
         return {};
     const int column = m_rows->columnIndex(columnName);
     if (column < 0)
         throw std::invalid_argument(QStringLiteral("代码查询没有栏目“%1”。").arg(columnName).toStdString());
-    const std::string_view text = m_rows->text(m_chosenRow, column);
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return m_values.value(column);
 }
 
 } // namespace vortaq

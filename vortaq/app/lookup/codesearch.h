@@ -8,14 +8,17 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
 
 namespace vortaq {
 
-/// Order of use: Init, the properties, SetPosition, Show, GetCodeValue. A search that was cancelled, or never shown,
-/// answers every GetCodeValue with empty text.
+/// Order of use: Init, the properties, SetPosition, Show, GetCodeValue. A module takes over whatever is answered, so a
+/// search that is given up answers what the module's field holds already: what was last chosen from the same list, at
+/// first the clerk's own, that is the host parameters named like the table's fields. One never shown answers with empty
+/// text.
 class CodeSearch : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString Table MEMBER m_table)
@@ -29,17 +32,19 @@ class CodeSearch : public QObject {
 public:
     explicit CodeSearch(std::shared_ptr<Session> session);
 
-    /// Forgets the previous search and what it found.
+    /// Forgets the previous search, but for what was chosen in it.
     Q_INVOKABLE void Init();
     /// Where the list drops down: offset from the lower left corner of the focused field, and the least height of a
     /// row.
     Q_INVOKABLE void SetPosition(int x, int y, int rowHeight);
     /// Loads the rows and lets the clerk choose. Raises what the engine raises.
     Q_INVOKABLE void Show();
-    /// The chosen row's column of that name, letter case ignored. Raises an error for a name that the field list lacks.
+    /// The answer's column of that name, letter case ignored. Raises an error for a name that the field list lacks.
     Q_INVOKABLE QString GetCodeValue(const QString &columnName);
 
 private:
+    [[nodiscard]] QStringList ownValues(const QStringList &fields) const;
+
     std::shared_ptr<Session> m_session;
     QString m_table;
     QString m_where;
@@ -51,7 +56,9 @@ private:
     QPoint m_offset;
     int m_rowHeight = 0;
     automation::DataPacketPtr m_rows;
-    int m_chosenRow = -1;
+    QStringList m_values; // the answer, in the order of the columns; empty before the first showing
+    QString m_lastList; // table and fields that the last choice was made from
+    QStringList m_lastValues;
 };
 
 } // namespace vortaq

@@ -2,8 +2,6 @@
 // Statement, first filter and place of a code look-up.
 #include "vortaq/app/lookup/lookuprequest.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace vortaq {
@@ -19,12 +17,19 @@ QString lookupStatement(const LookupRequest &request)
     return sql;
 }
 
+QStringList lookupFields(const LookupRequest &request)
+{
+    QStringList fields;
+    for (const QString &field : request.fieldList.split(QLatin1Char(',')))
+        fields.append(field.trimmed().section(QLatin1Char(' '), 0, 0));
+    return fields;
+}
+
 int codeColumn(const LookupRequest &request)
 {
-    const QStringList fields = request.fieldList.split(QLatin1Char(','));
+    const QStringList fields = lookupFields(request);
     for (qsizetype i = 0; i < fields.size(); ++i) {
-        const QString source = fields[i].trimmed().section(QLatin1Char(' '), 0, 0);
-        if (source.compare(request.customField.trimmed(), Qt::CaseInsensitive) == 0)
+        if (fields[i].compare(request.customField.trimmed(), Qt::CaseInsensitive) == 0)
             return static_cast<int>(i);
     }
     return 0;

@@ -8,6 +8,7 @@
 #include <QRect>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 namespace vortaq {
 
@@ -25,6 +26,9 @@ struct LookupRequest {
 
 /// The one query of a look-up.
 [[nodiscard]] QString lookupStatement(const LookupRequest &request);
+
+/// The fields of the field list as the table names them, in its order.
+[[nodiscard]] QStringList lookupFields(const LookupRequest &request);
 
 /// Position of the code field in the field list; 0 when it is not there.
 [[nodiscard]] int codeColumn(const LookupRequest &request);
