@@ -2,13 +2,22 @@
 // Dresses the application.
 #include "vortaq/app/appearance.h"
 
+#include "vortaq/app/naming.h"
+
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
 #include <QStyle>
 #include <QTranslator>
+
+/// A static library's resources have to be asked for, from outside any namespace.
+static void loadResources()
+{
+    Q_INIT_RESOURCE(icon);
+}
 
 namespace vortaq {
 
@@ -62,6 +71,9 @@ void dress(QApplication &application)
     if (font.pointSize() < LeastPointSize)
         font.setPointSize(LeastPointSize);
     application.setFont(font);
+    loadResources();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/tarnwell-host.svg")));
+    QGuiApplication::setDesktopFileName(programName()); // where a desktop takes the icon from the menu entry
 }
 
 } // namespace vortaq
