@@ -105,6 +105,28 @@ function(tarnwell_test name)
   endforeach()
 endfunction()
 
+# tarnwell_test_on_screens(NAME): one more CTest entry of a test for each screen and scale that hospitals have.
+function(tarnwell_test_on_screens name)
+  get_test_property(${name} ENVIRONMENT environment)
+  get_test_property(${name} LABELS label)
+  foreach(size 1024x768 1366x768 1920x1080)
+    string(REPLACE "x" ";" numbers ${size})
+    list(GET numbers 0 width)
+    list(GET numbers 1 height)
+    set(screen ${CMAKE_BINARY_DIR}/screens/${size}.json)
+    file(CONFIGURE OUTPUT ${screen} CONTENT
+         [[{"screens":[{"name":"@size@","x":0,"y":0,"width":@width@,"height":@height@,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]}]]
+         @ONLY)
+    foreach(scale 1 1.5 2)
+      add_test(NAME ${name}_${size}_${scale} COMMAND ${name} --gtest_brief=1)
+      set_tests_properties(
+        ${name}_${size}_${scale}
+        PROPERTIES LABELS "${label}" TIMEOUT 300 ENVIRONMENT
+                   "${environment};QT_QPA_PLATFORM=offscreen:configfile=${screen};QT_SCALE_FACTOR=${scale}")
+    endforeach()
+  endforeach()
+endfunction()
+
 if(TARNWELL_TESTS)
   include(TarnwellChecks)
 endif()

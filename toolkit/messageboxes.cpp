@@ -7,9 +7,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QTextEdit>
+#include <QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 
 namespace toolkit {
@@ -25,18 +26,64 @@ void prepare(QMessageBox &box, const QString &title, const QString &text)
     box.setText(text);
 }
 
-/// A question that lists many records would push its buttons off the screen: then the text scrolls.
+/// What the screen has room for beside icon, buttons and borders.
+QSize roomFor(const QMessageBox &box)
+{
+    const QSize screen = box.screen()->availableGeometry().size();
+    return {std::min(screen.width() / 2, 500), screen.height() / 2};
+}
+
+bool fits(const QMessageBox &box, const QString &text, const QSize &room)
+{
+    constexpr qsizetype most = 4000; // characters; no screen holds as many, and measuring more takes its time
+    const int flags = Qt::TextWordWrap | Qt::TextWrapAnywhere;
+    return text.size() < most
+        && box.fontMetrics().boundingRect(QRect(QPoint(0, 0), room), flags, text).height() <= room.height();
+}
+
+void addLine(QVBoxLayout &layout, const QString &name, const QString &text)
+{
+    auto *line = new QLabel(text, layout.parentWidget());
+    line->setObjectName(name);
+    line->setTextFormat(Qt::PlainText);
+    line->setWordWrap(true);
+    layout.addWidget(line);
+}
+
+void addList(QVBoxLayout &layout, const QStringList &lines, const QSize &room)
+{
+    auto *list = new QTextEdit(layout.parentWidget());
+    list->setPlainText(lines.join(u'\n'));
+    list->setObjectName(QStringLiteral("boxList"));
+    list->setReadOnly(true);
+    list->setTabChangesFocus(true);
+    list->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    list->setFixedSize(room);
+    layout.addWidget(list);
+}
+
+/// A question that lists many records would push its buttons and its last line, the question proper, off the screen:
+/// then what stands between the first line and the last scrolls.
 void keepOnScreen(QMessageBox &box)
 {
-    const int room = box.screen()->availableGeometry().height() / 2;
+    const QSize room = roomFor(box);
     auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
-    if (!label || label->sizeHint().height() <= room)
+    if (!label || fits(box, box.text(), room))
         return;
-    auto *area = new QScrollArea(&box);
-    area->setFrameShape(QFrame::NoFrame);
-    const std::unique_ptr<QLayoutItem> replaced(box.layout()->replaceWidget(label, area));
-    area->setWidget(label);
-    area->setMinimumSize(label->sizeHint().width() + area->verticalScrollBar()->sizeHint().width(), room);
+    auto *panel = new QWidget(&box);
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    QStringList lines = box.text().split(QStringLiteral("\r\n"));
+    const QSize twoLines(room.width(), 2 * box.fontMetrics().lineSpacing());
+    const bool framed = lines.size() > 2 && fits(box, lines.first(), twoLines) && fits(box, lines.last(), twoLines);
+    if (framed)
+        addLine(*layout, QStringLiteral("boxBegin"), lines.takeFirst());
+    const QString end = framed ? lines.takeLast() : QString();
+    addList(*layout, lines, framed ? room - QSize(0, twoLines.height()) : room);
+    if (framed)
+        addLine(*layout, QStringLiteral("boxEnd"), end);
+    const std::unique_ptr<QLayoutItem> replaced(box.layout()->replaceWidget(label, panel));
+    label->hide(); // it keeps the text for whoever asks the box for it
 }
 
 QPushButton *addButton(QMessageBox &box, const QString &name, const QString &caption, QMessageBox::ButtonRole role)

@@ -3,12 +3,13 @@
 #include "toolkit/messageboxes.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -127,21 +128,81 @@ TEST(AskBox, takesEscapeAndClosingForNo)
     EXPECT_FALSE(answerOf([](QMessageBox &box) { box.close(); }));
 }
 
-TEST(AskBox, staysOnTheScreenHoweverMuchItLists)
+bool isSeenWhole(const QWidget *widget)
 {
-    QString list;
-    for (int i = 0; i < 5000; ++i)
-        list += u"\r\n42010600"_s + QString::number(10000 + i) + u"   李四"_s;
-    const WhenBoxOpens opened([&list](QMessageBox &box) {
-        EXPECT_EQ(box.text(), list);
-        EXPECT_LE(box.height(), box.screen()->availableGeometry().height());
-        EXPECT_TRUE(box.rect().contains(box.findChild<QPushButton *>(u"btnYes"_s)->geometry()));
-        EXPECT_TRUE(box.findChild<QScrollArea *>()->verticalScrollBar()->isVisible());
-        EXPECT_FALSE(box.findChild<QScrollArea *>()->horizontalScrollBar()->isVisible());
+    return widget != nullptr && widget->isVisible() && widget->visibleRegion().boundingRect() == widget->rect();
+}
+
+QString manyNames(int count)
+{
+    QString text = u"当前选择记录有已被制单信息！"_s;
+    for (int i = 0; i < count; ++i)
+        text += u"\r\n42010600"_s + QString::number(10000 + i) + u"   李四"_s;
+    return text + u"\r\n是否继续？"_s;
+}
+
+class LongQuestion : public testing::TestWithParam<int> { };
+
+TEST_P(LongQuestion, keepsItsEndAndItsButtonsInViewHoweverMuchItLists)
+{
+    const QString question = manyNames(GetParam());
+    const WhenBoxOpens opened([&question](QMessageBox &box) {
+        EXPECT_EQ(box.text(), question);
+        EXPECT_TRUE(box.screen()->availableGeometry().contains(box.frameGeometry()))
+            << box.width() << 'x' << box.height();
+        EXPECT_TRUE(isSeenWhole(box.findChild<QPushButton *>(u"btnYes"_s)));
+        EXPECT_TRUE(isSeenWhole(box.findChild<QPushButton *>(u"btnNo"_s)));
+
+        const auto *begin = box.findChild<QLabel *>(u"boxBegin"_s);
+        const auto *end = box.findChild<QLabel *>(u"boxEnd"_s);
+        const auto *list = box.findChild<QTextEdit *>(u"boxList"_s);
+        ASSERT_TRUE(begin && end && list);
+        EXPECT_EQ(
+            QStringList({begin->text(), list->toPlainText().replace(u'\n', u"\r\n"_s), end->text()}).join(u"\r\n"_s),
+            question);
+        EXPECT_TRUE(isSeenWhole(begin));
+        EXPECT_TRUE(isSeenWhole(end));
+        EXPECT_TRUE(list->verticalScrollBar()->isVisible());
+        EXPECT_FALSE(list->horizontalScrollBar()->isVisible());
+        EXPECT_EQ(list->verticalScrollBar()->value(), 0) << "the first names are seen first";
+        EXPECT_GE(list->viewport()->height(), 3 * list->fontMetrics().lineSpacing());
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    EXPECT_TRUE(toolkit::messageBoxes().ask(nullptr, u"提示"_s, list));
+    EXPECT_TRUE(toolkit::messageBoxes().ask(nullptr, u"提示"_s, question));
     EXPECT_TRUE(opened.opened());
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, LongQuestion, testing::Values(60, 1000, 5000));
+
+TEST(AskBox, showsAShortListAsItIs)
+{
+    answerOf([](QMessageBox &box) {
+        EXPECT_EQ(box.findChild<QTextEdit *>(), nullptr);
+        EXPECT_TRUE(isSeenWhole(box.findChild<QLabel *>(u"qt_msgbox_label"_s)));
+        box.close();
+    });
+}
+
+TEST(AskBox, takesItsLettersBesideALongListToo)
+{
+    const WhenBoxOpens opened([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_N); });
+    EXPECT_FALSE(toolkit::messageBoxes().ask(nullptr, u"提示"_s, manyNames(1000)));
+}
+
+// No list, but one endless line, as a database's own words may be.
+TEST(TellBox, scrollsATextWithoutLines)
+{
+    for (const QString &text : {u"失败"_s.repeated(3000), u"x"_s.repeated(3900)}) {
+        const WhenBoxOpens opened([&text](QMessageBox &box) {
+            EXPECT_EQ(box.text(), text);
+            EXPECT_EQ(box.findChild<QTextEdit *>(u"boxList"_s)->toPlainText(), text);
+            EXPECT_TRUE(box.screen()->availableGeometry().contains(box.frameGeometry()));
+            EXPECT_TRUE(isSeenWhole(box.findChild<QPushButton *>(u"btnOk"_s)));
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        toolkit::messageBoxes().tell(nullptr, u"提示"_s, text);
+        EXPECT_TRUE(opened.opened());
+    }
 }
 
 TEST(TellBox, hasOneButton)

@@ -2,6 +2,7 @@
 // The queue of error boxes.
 #include "vortaq/app/errorqueue.h"
 
+#include "vortaq/app/boxtext.h"
 #include "vortaq/app/console.h"
 #include "vortaq/app/naming.h"
 #include "vortaq/app/windowatwork.h"
@@ -52,7 +53,6 @@ void ErrorQueue::showNext()
         return;
     m_box = new QMessageBox(QMessageBox::Critical, programTitle(), {}, QMessageBox::NoButton, windowAtWork());
     m_box->setObjectName(QStringLiteral("errorBox"));
-    m_box->setTextFormat(Qt::PlainText);
     m_box->addButton(QStringLiteral("确定"), QMessageBox::AcceptRole);
     refreshBox();
     // The window under the box may go first and take the box along.
@@ -76,8 +76,9 @@ void ErrorQueue::refreshBox()
     if (!m_box)
         return;
     const Entry &entry = m_entries.front();
-    m_box->setText(entry.times == 1 ? entry.message
-                                    : QStringLiteral("%1\n（共 %2 次）").arg(entry.message).arg(entry.times));
+    setBoxText(*m_box,
+               entry.times == 1 ? entry.message
+                                : QStringLiteral("%1\n（共 %2 次）").arg(entry.message).arg(entry.times));
 }
 
 } // namespace vortaq

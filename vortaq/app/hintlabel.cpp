@@ -3,6 +3,10 @@
 #include "vortaq/app/hintlabel.h"
 
 #include <QEvent>
+#include <QMainWindow>
+#include <QMenuBar>
+
+#include <algorithm>
 
 namespace vortaq {
 
@@ -25,11 +29,10 @@ HintLabel::HintLabel(QWidget *window)
     colours.setColor(QPalette::Window, QColor(0x2E, 0x7D, 0x4F));
     colours.setColor(QPalette::WindowText, Qt::white);
     setPalette(colours);
-    QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.3);
-    setFont(large);
-    setMargin(fontMetrics().height() * 2 / 3);
-    setMinimumWidth(fontMetrics().height() * 14);
+    QFont heavy = font();
+    heavy.setBold(true);
+    setFont(heavy);
+    setWordWrap(true);
     hide();
     window->installEventFilter(this);
     m_timer.setSingleShot(true);
@@ -55,8 +58,21 @@ bool HintLabel::eventFilter(QObject *watched, QEvent *event)
 
 void HintLabel::place()
 {
-    adjustSize();
-    move((parentWidget()->width() - width()) / 2, parentWidget()->height() / 12);
+    const QRect row = strip(fontMetrics().horizontalAdvance(text()) + 2 * fontMetrics().height());
+    setGeometry(QRect(row.topLeft(), QSize(row.width(), std::max(row.height(), heightForWidth(row.width())))));
+}
+
+QRect HintLabel::strip(int needed) const
+{
+    const auto *window = qobject_cast<const QMainWindow *>(parentWidget());
+    const auto *menus = window ? qobject_cast<const QMenuBar *>(window->menuWidget()) : nullptr;
+    if (!menus || menus->actions().isEmpty())
+        return {0, 0, parentWidget()->width(), fontMetrics().height() * 3 / 2};
+    QRect row = menus->geometry();
+    const int left = menus->actionGeometry(menus->actions().constLast()).right() + fontMetrics().height();
+    if (row.width() - left >= needed)
+        row.setLeft(row.left() + left);
+    return row;
 }
 
 } // namespace vortaq

@@ -7,7 +7,8 @@
 
 namespace vortaq {
 
-/// Lies over the top of its parent, lets clicks through, takes no focus, and hides by itself.
+/// Lies in the free part of its window's menu bar, where it hides no data and moves nothing; a longer message takes the
+/// whole row and then as many lines as it needs. Lets clicks through, takes no focus, and hides by itself.
 class HintLabel : public QLabel {
     Q_OBJECT
 
@@ -21,6 +22,8 @@ protected:
 
 private:
     void place();
+    /// The room for one line: beside the menus, or over them when that is too narrow for `needed` pixels.
+    [[nodiscard]] QRect strip(int needed) const;
 
     QTimer m_timer;
 };

@@ -2,6 +2,7 @@
 // Error box and passing hint.
 #include "vortaq/app/screenmessages.h"
 
+#include "vortaq/app/boxtext.h"
 #include "vortaq/app/hintlabel.h"
 #include "vortaq/app/naming.h"
 #include "vortaq/app/windowatwork.h"
@@ -14,8 +15,7 @@ void ScreenMessages::alert(const QString &message)
 {
     QMessageBox box(QMessageBox::Critical, programTitle(), {}, QMessageBox::NoButton, windowAtWork());
     box.setObjectName(QStringLiteral("alertBox"));
-    box.setTextFormat(Qt::PlainText); // a database's own words may hold "<"
-    box.setText(message);
+    setBoxText(box, message);
     box.addButton(QStringLiteral("确定"), QMessageBox::AcceptRole);
     box.exec();
 }

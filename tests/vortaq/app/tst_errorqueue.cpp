@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -64,6 +66,23 @@ TEST(ErrorQueue, OneBoxAtATimeInTheOrderOfErrors)
     EXPECT_EQ(shown(), QStringLiteral("第三"));
     confirm();
     EXPECT_EQ(boxes().size(), 0U);
+}
+
+TEST(ErrorQueue, ALongMessageLeavesTheButtonOnTheScreen)
+{
+    const ErrorQueue queue;
+    const QString message = QStringLiteral("数据库的话\n").repeated(500);
+    for (const QString &expected : {message, message + QStringLiteral("\n（共 2 次）")}) {
+        automation::displayError(message);
+        settle();
+        ASSERT_EQ(boxes().size(), 1U);
+        const QMessageBox &box = *boxes().front();
+        EXPECT_EQ(box.text(), expected);
+        EXPECT_EQ(box.findChild<QTextEdit *>()->toPlainText(), expected);
+        EXPECT_TRUE(box.screen()->availableGeometry().contains(box.frameGeometry()));
+        EXPECT_TRUE(box.rect().contains(box.buttons().constFirst()->geometry()));
+    }
+    confirm();
 }
 
 TEST(ErrorQueue, EqualMessagesAreCounted)

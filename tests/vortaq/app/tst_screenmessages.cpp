@@ -5,8 +5,14 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -95,5 +101,96 @@ TEST_F(ScreenMessagesTest, AHintOverADialogStaysWithTheWindowBehind)
     m_messages.hint(QStringLiteral("添加成功！"));
     EXPECT_TRUE(m_window.findChild<QLabel *>(QStringLiteral("hintLabel"), Qt::FindDirectChildrenOnly));
 }
+
+// The row under the clerk's hand is the first one after a reload.
+TEST(Hint, HidesNoDataAndMovesNothing)
+{
+    QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("业务管理"));
+    window.menuBar()->addMenu(QStringLiteral("帮助"));
+    auto *page = new QWidget;
+    window.setCentralWidget(page);
+    window.resize(600, 400);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QRect place = page->geometry();
+
+    ScreenMessages messages;
+    messages.hint(QStringLiteral("制单成功！"));
+    QApplication::processEvents();
+    auto *label = window.findChild<QLabel *>(QStringLiteral("hintLabel"));
+    ASSERT_TRUE(label && label->isVisible());
+    EXPECT_EQ(page->geometry(), place);
+    EXPECT_FALSE(label->geometry().intersects(place));
+    const QRect lastMenu = window.menuBar()->actionGeometry(window.menuBar()->actions().constLast());
+    EXPECT_GT(label->geometry().left(), lastMenu.right()) << "the menus stay in sight";
+    EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(label->text()));
+    EXPECT_GE(label->height(), label->fontMetrics().height());
+
+    window.resize(300, 400);
+    QApplication::processEvents();
+    EXPECT_FALSE(label->geometry().intersects(page->geometry()));
+    EXPECT_TRUE(window.rect().contains(label->geometry()));
+}
+
+TEST(Hint, ALongOneIsReadableWhole)
+{
+    QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("业务管理"));
+    window.resize(400, 300);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ScreenMessages messages;
+    messages.hint(QStringLiteral("制单成功！").repeated(20));
+    auto *label = window.findChild<QLabel *>(QStringLiteral("hintLabel"));
+    ASSERT_TRUE(label && label->isVisible());
+    EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+    EXPECT_TRUE(window.rect().contains(label->geometry()));
+}
+
+struct LongText {
+    const char *name;
+    QString text;
+};
+
+void PrintTo(const LongText &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class LongAlert : public testing::TestWithParam<LongText> { };
+
+TEST_P(LongAlert, KeepsItsButtonOnTheScreen)
+{
+    int seen = 0;
+    QTimer::singleShot(0, [&seen] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        QApplication::processEvents();
+        EXPECT_EQ(box->text(), GetParam().text);
+        EXPECT_TRUE(box->screen()->availableGeometry().contains(box->frameGeometry()))
+            << box->width() << 'x' << box->height();
+        const QWidget *button = box->buttons().constFirst();
+        EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+        auto *field = box->findChild<QTextEdit *>();
+        ASSERT_TRUE(field);
+        EXPECT_EQ(field->toPlainText(), QString(GetParam().text).remove(QLatin1Char('\r')));
+        EXPECT_TRUE(field->verticalScrollBar()->isVisible());
+        EXPECT_FALSE(field->horizontalScrollBar()->isVisible());
+        ++seen;
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    ScreenMessages().alert(GetParam().text);
+    EXPECT_EQ(seen, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, LongAlert,
+    testing::Values(LongText{"Lines", QStringLiteral("制单失败！") + QStringLiteral("\r\n数据库的话").repeated(300)},
+                    LongText{"OneLine", QStringLiteral("制单失败，数据库的话").repeated(500)},
+                    LongText{"Unbroken", QStringLiteral("x").repeated(3900)}),
+    [](const auto &row) { return std::string(row.param.name); });
 
 } // namespace vortaq::test
