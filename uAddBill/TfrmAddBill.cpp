@@ -12,6 +12,7 @@
 #include "host/references.h"
 #include "host/rightsscope.h"
 #include "toolkit/TreeListUpdate.h"
+#include "toolkit/dialogsize.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
 #include "toolkit/keycheck.h"
@@ -56,12 +57,11 @@ TfrmAddBill::~TfrmAddBill() = default;
 void TfrmAddBill::ShowModal()
 {
     FormShow();
+    toolkit::fitToScreen(*this, parentWidget() != nullptr ? parentWidget()->window()->size() * 9 / 10 : sizeHint());
+    setFixedSize(size()); // its border is not for dragging
     QSize frame(0, 0); // before it is shown: that of the window behind it
-    if (parentWidget() != nullptr) {
-        const QWidget &behind = *parentWidget()->window();
-        setFixedSize(behind.size() * 9 / 10); // its border is not for dragging
-        frame = behind.frameSize() - behind.size();
-    }
+    if (parentWidget() != nullptr)
+        frame = parentWidget()->window()->frameSize() - parentWidget()->window()->size();
     const QRect place = screen()->availableGeometry();
     const QPoint corner = place.center() - QRect(QPoint(0, 0), size() + frame).center();
     move(std::max(corner.x(), place.left()), std::max(corner.y(), place.top())); // its title stays in reach

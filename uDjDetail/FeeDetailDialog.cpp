@@ -5,6 +5,7 @@
 #include "host/loaddataset.h"
 #include "host/references.h"
 #include "toolkit/TreeListUpdate.h"
+#include "toolkit/dialogsize.h"
 #include "toolkit/guard.h"
 #include "toolkit/hostformats.h"
 #include "toolkit/rowdrawing.h"
@@ -78,7 +79,7 @@ void FeeDetailDialog::ShowModal()
 {
     FormShow();
     if (parentWidget() != nullptr)
-        resize(parentWidget()->window()->size() * 9 / 10);
+        toolkit::fitToScreen(*this, parentWidget()->window()->size() * 9 / 10);
     divideRoom();
     exec();
 }

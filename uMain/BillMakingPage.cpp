@@ -114,6 +114,15 @@ void BillMakingPage::CalcUpTotals()
     m_ui->dxCEUpFreeFee->setValue(totals.freeFee);
 }
 
+bool BillMakingPage::hasTicks() const
+{
+    for (int i = 0; i < m_ui->dxTLUp->count(); ++i) {
+        if (toolkit::isTicked(m_ui->dxTLUp->node(i), m_checkColumn))
+            return true;
+    }
+    return false;
+}
+
 void BillMakingPage::dxTLUpCheckToggleClick(const QString &newState)
 {
     TdxTreeListNode row = m_ui->dxTLUp->focusedNode();

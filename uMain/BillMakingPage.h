@@ -25,6 +25,8 @@ public:
     /// Loads the page and dresses it; part of the form's start-up.
     void start();
 
+    [[nodiscard]] bool hasTicks() const;
+
     /// Rebuilds the candidates and resets the totals, but for "报销费用：", which the next tick brings up to date.
     void LoadUpCandidates();
 

@@ -87,6 +87,11 @@ TfrmMain::TfrmMain(QWidget *parent)
 
 TfrmMain::~TfrmMain() = default;
 
+bool TfrmMain::hasUnsavedInput() const
+{
+    return m_billMaking->hasTicks();
+}
+
 void TfrmMain::connectPrinting()
 {
     auto *documents = new print::PrintedDocuments(m_workbench, *CDSTmp, this);

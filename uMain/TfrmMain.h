@@ -16,11 +16,14 @@ class UnbilledPage;
 /// Five pages over one workbench. Until it is first shown the form contacts no host object.
 class TfrmMain : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(bool unsavedInput READ hasUnsavedInput)
 
 public:
     explicit TfrmMain(QWidget *parent = nullptr);
     ~TfrmMain() override;
 
+    /// For the host, before it shows the form anew: whether that would throw the clerk's ticks away.
+    [[nodiscard]] bool hasUnsavedInput() const;
     [[nodiscard]] const Session &session() const noexcept { return m_workbench.session; }
 
 protected:

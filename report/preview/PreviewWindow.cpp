@@ -7,6 +7,7 @@
 #include "report/output/spreadsheet.h"
 #include "ui_PreviewWindow.h"
 
+#include "toolkit/dialogsize.h"
 #include "toolkit/guard.h"
 #include "toolkit/messageboxes.h"
 
@@ -72,6 +73,7 @@ void PreviewWindow::run()
 {
     if (!m_document.isFinished())
         m_timer.start();
+    toolkit::fitToScreen(*this, size());
     exec();
     m_timer.stop();
     if (m_failure)

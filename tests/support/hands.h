@@ -5,6 +5,8 @@
 #include "toolkit/TdxTreeList.h"
 
 #include <QAction>
+#include <QScreen>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTest>
 #include <QWidget>
@@ -30,6 +32,18 @@ inline void click(const QWidget &form, const char *button)
 inline void trigger(const QWidget &form, const char *item)
 {
     find<QAction>(form, item).trigger();
+}
+
+/// Scrolls to a component where it lies in something that scrolls; whether all of it is then seen on the screen.
+inline bool reach(QWidget &component)
+{
+    for (QWidget *around = component.parentWidget(); around != nullptr; around = around->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(around))
+            area->ensureWidgetVisible(&component, 0, 0);
+    }
+    const QRect onScreen(component.mapToGlobal(QPoint(0, 0)), component.size());
+    return component.isVisible() && component.visibleRegion().boundingRect() == component.rect()
+        && component.screen()->availableGeometry().contains(onScreen);
 }
 
 /// Brings a page of the main form to the front.

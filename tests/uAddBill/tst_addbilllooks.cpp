@@ -52,17 +52,23 @@ TEST_F(AddBillLooksTest, standsInTheMiddleOfTheScreenWhereverTheFormStands)
     }
 }
 
-TEST_F(AddBillLooksTest, onAScreenThatIsTooSmallItsTitleStaysInReach)
+TEST_F(AddBillLooksTest, fitsTheScreenHoweverLargeTheFormIs)
 {
     m_desk.emplace();
     QWidget &form = m_desk->open();
     const QRect screen = form.screen()->availableGeometry();
-    form.resize(screen.size() * 2);
-    const ModalVisit visit(QStringLiteral("frmAddBill"), [&screen](QWidget &dialog) {
-        EXPECT_GT(dialog.height(), screen.height());
-        EXPECT_EQ(dialog.pos(), screen.topLeft());
-    });
-    TfrmAddBill({QStringLiteral("42990102"), QStringLiteral("3")}, &form).ShowModal();
+    for (const double share : {0.3, 1.0, 2.0}) {
+        form.resize(QSizeF(screen.size() * share).toSize());
+        const ModalVisit visit(QStringLiteral("frmAddBill"), [&screen](QWidget &dialog) {
+            EXPECT_TRUE(screen.contains(dialog.frameGeometry())) << dialog.width() << 'x' << dialog.height();
+            EXPECT_EQ(dialog.minimumSize(), dialog.maximumSize());
+            for (const char *name : {"edtUpNum", "dxCEUpFreeFee", "btnSave", "btnCancel"})
+                EXPECT_TRUE(hands::reach(hands::find<QWidget>(dialog, name))) << name;
+            tick(dialog, {0});
+            EXPECT_EQ(hands::find<QLineEdit>(dialog, "edtUpNum").text(), QStringLiteral("1"));
+        });
+        TfrmAddBill({QStringLiteral("42990102"), QStringLiteral("3")}, &form).ShowModal();
+    }
 }
 
 TEST_F(AddBillLooksTest, totalsBoxesHaveTheirLabelsAndTakeNoTyping)

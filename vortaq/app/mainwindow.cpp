@@ -2,21 +2,24 @@
 // Opens, closes and embeds the module's form.
 #include "vortaq/app/mainwindow.h"
 
+#include "vortaq/app/elidedlabel.h"
 #include "vortaq/app/errorwatch.h"
+#include "vortaq/app/formrefresh.h"
 #include "vortaq/app/loadingnotice.h"
 #include "vortaq/app/menucaption.h"
 #include "vortaq/app/menukeys.h"
 #include "vortaq/app/modulelibrary.h"
 #include "vortaq/app/naming.h"
+#include "vortaq/app/pagearea.h"
 #include "vortaq/app/session.h"
 #include "vortaq/app/startpage.h"
+#include "vortaq/app/windowplace.h"
 
 #include "automation/error.h"
 #include "automation/errordisplay.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
@@ -26,6 +29,9 @@
 namespace vortaq {
 
 namespace {
+
+constexpr QSize FirstSize(1200, 760);
+constexpr int MostWidth = 16; // of a text in the status bar, in heights of its line; the rest is for the tip
 
 QString geometryKey()
 {
@@ -68,15 +74,17 @@ MainWindow::MainWindow(std::shared_ptr<Session> session, ModuleLibrary &module, 
 {
     setObjectName(QStringLiteral("hostWindow"));
     m_pages->addWidget(m_startPage);
-    setCentralWidget(m_pages);
+    auto *area = new PageArea(m_pages, this);
+    connect(area, &PageArea::tipOffered, this, &MainWindow::showTip);
+    setCentralWidget(area);
     connect(m_startPage, &StartPage::functionWanted, this, &MainWindow::openFunction);
     buildMenus();
     new MenuKeys(*this);
     buildStatusBar(database);
     updateState();
-    resize(1200, 760);
+    placeOnScreen(*this, FirstSize);
     if (m_geometry == Geometry::Remembered)
-        restoreGeometry(QSettings().value(geometryKey()).toByteArray());
+        restorePlace(*this, QSettings().value(geometryKey()).toByteArray());
 }
 
 MainWindow::~MainWindow()
@@ -88,6 +96,7 @@ MainWindow::~MainWindow()
 
 void MainWindow::buildMenus()
 {
+    menuBar()->setNativeMenuBar(false); // hints stand in its row
     QMenu *category = menuBar()->addMenu(menuCaption(m_module.info().category.caption));
     category->setObjectName(QStringLiteral("categoryMenu"));
     QAction *open = category->addAction(menuCaption(m_module.info().function.caption), this, &MainWindow::openFunction);
@@ -110,23 +119,35 @@ void MainWindow::buildMenus()
 
 void MainWindow::buildStatusBar(const QString &database)
 {
+    statusBar()->setContentsMargins(6, 0, 6, 0);
+    statusBar()->setMinimumWidth(1); // where room is short the texts give way, the tip last
+    m_tip = new ElidedLabel(Qt::ElideRight, this);
+    m_tip->setObjectName(QStringLiteral("statusTip"));
+    statusBar()->addWidget(m_tip, 1);
+
     const User &user = m_session->user();
-    const auto add = [this](const QString &name, const QString &text, int stretch) {
-        auto *label = new QLabel(text, this);
-        label->setTextFormat(Qt::PlainText);
+    const auto add = [this](const QString &name, const QString &text) {
+        auto *label = new ElidedLabel(Qt::ElideMiddle, this);
+        label->setText(text);
         label->setObjectName(name);
-        statusBar()->addWidget(label, stretch);
+        label->setMaximumWidth(label->fontMetrics().height() * MostWidth);
+        statusBar()->addPermanentWidget(label);
     };
-    add(QStringLiteral("statusUser"), QStringLiteral("操作员：%1（%2）").arg(user.name, user.code), 0);
+    add(QStringLiteral("statusUser"), QStringLiteral("操作员：%1（%2）").arg(user.name, user.code));
     add(QStringLiteral("statusInstitution"),
         QStringLiteral("机构：%1（%2）")
             .arg(m_session->parameter(QStringLiteral("OrgName")).toString(),
-                 m_session->parameter(QStringLiteral("OrgCode")).toString()),
-        1);
-    add(QStringLiteral("statusDatabase"), QStringLiteral("数据库：%1").arg(database), 0);
+                 m_session->parameter(QStringLiteral("OrgCode")).toString()));
+    add(QStringLiteral("statusDatabase"), QStringLiteral("数据库：%1").arg(database));
     m_loadingNotice = new LoadingNotice(this);
     statusBar()->addPermanentWidget(m_loadingNotice);
     connect(m_loadingNotice, &LoadingNotice::retryWanted, this, &MainWindow::openFunction);
+}
+
+void MainWindow::showTip(const QString &tip)
+{
+    m_tip->setText(tip);
+    m_tip->setMinimumWidth(m_tip->sizeHint().width());
 }
 
 void MainWindow::openFunction()
@@ -150,6 +171,11 @@ void MainWindow::showForm(QWidget &form)
     const ErrorWatch watch;
     m_pages->setCurrentWidget(&form);
     form.show(); // a form that closed itself is still the current page until the event loop runs
+    acceptLoaded(form, watch);
+}
+
+void MainWindow::acceptLoaded(QWidget &form, const ErrorWatch &watch)
+{
     form.setEnabled(!watch.hasSeenError());
     focusInto(form);
 }
@@ -164,7 +190,19 @@ void MainWindow::closeFunction()
 
 void MainWindow::refreshFunction()
 {
-    guarded([this] { m_module.refresh(); });
+    const bool isOpen = m_module.form() && m_module.form()->isVisible();
+    if (isOpen && !mayDiscardInput(*m_module.form()))
+        return;
+    guarded([this, isOpen] {
+        m_module.refresh();
+        if (!isOpen)
+            return;
+        showTip({});
+        const ErrorWatch watch;
+        showAnew(*m_module.form());
+        acceptLoaded(*m_module.form(), watch);
+    });
+    updateState();
 }
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
@@ -185,8 +223,11 @@ void MainWindow::updateState()
 {
     const QWidget *form = m_module.form();
     const bool open = form && m_pages->currentWidget() == form && !form->isHidden();
-    if (!open && m_pages->currentWidget() != m_startPage)
-        showStartPage();
+    if (!open) {
+        showTip({});
+        if (m_pages->currentWidget() != m_startPage)
+            showStartPage();
+    }
     const bool isUnloaded = open && !form->isEnabledTo(m_pages);
     m_loadingNotice->setVisible(isUnloaded);
     if (isUnloaded)

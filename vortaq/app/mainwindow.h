@@ -10,6 +10,8 @@ class QStackedWidget;
 
 namespace vortaq {
 
+class ElidedLabel;
+class ErrorWatch;
 class LoadingNotice;
 class ModuleLibrary;
 class Session;
@@ -32,6 +34,7 @@ public:
     void openFunction();
     /// Frees the module's form and returns to the start page.
     void closeFunction();
+    /// Lets the open form load itself anew, after a question when it holds input that is not saved.
     void refreshFunction();
 
 protected:
@@ -42,6 +45,9 @@ private:
     void buildMenus();
     void buildStatusBar(const QString &database);
     void showForm(QWidget &form);
+    /// A form that could not load itself stays, but cannot be used.
+    void acceptLoaded(QWidget &form, const ErrorWatch &watch);
+    void showTip(const QString &tip);
     void showStartPage();
     void updateState();
     void about();
@@ -52,6 +58,7 @@ private:
     QStackedWidget *m_pages;
     StartPage *m_startPage;
     LoadingNotice *m_loadingNotice = nullptr;
+    ElidedLabel *m_tip = nullptr;
     QAction *m_refresh = nullptr;
     QAction *m_closeFunction = nullptr;
 };

@@ -36,7 +36,7 @@ StartPage::StartPage(const Session &session, const ModuleInfo &info, QWidget *pa
     open->setObjectName(QStringLiteral("openFunctionButton"));
     open->setDefault(true);
     setFocusProxy(open);
-    open->setMinimumSize(open->fontMetrics().averageCharWidth() * 40, open->fontMetrics().height() * 3);
+    open->setMinimumSize(open->fontMetrics().averageCharWidth() * 28, open->fontMetrics().height() * 3);
     connect(open, &QPushButton::clicked, this, &StartPage::functionWanted);
 
     auto *layout = new QVBoxLayout(this);

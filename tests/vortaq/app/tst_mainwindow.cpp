@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the main window around a module's form.
-#include "tests/vortaq/app/support/hostfixture.h"
-#include "vortaq/app/mainwindow.h"
-#include "vortaq/app/modulelibrary.h"
+#include "tests/vortaq/app/support/mainwindowfixture.h"
 
-#include "automation/errordisplay.h"
-
-#include <QAction>
-#include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,25 +13,10 @@
 
 namespace vortaq::test {
 
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public MainWindowFixture {
 protected:
-    explicit MainWindowTest(const QString &module = QStringLiteral(TEST_PLAIN_MODULE))
-        : m_module(module)
-        , m_window(m_host.session, m_module, QStringLiteral("demo.db"), MainWindow::Geometry::Fresh)
-    {
-        automation::setErrorDisplay([this](const QString &message) { m_errors.append(message); });
-        m_window.show();
-        QApplication::processEvents();
-    }
-    ~MainWindowTest() override { automation::setErrorDisplay({}); }
+    using MainWindowFixture::MainWindowFixture;
 
-    void trigger(const char *action)
-    {
-        auto *found = m_window.findChild<QAction *>(QString::fromLatin1(action));
-        ASSERT_TRUE(found) << action;
-        found->trigger();
-        QApplication::processEvents();
-    }
     bool isEnabled(const char *action)
     {
         return m_window.findChild<QAction *>(QString::fromLatin1(action))->isEnabled();
@@ -50,11 +29,6 @@ protected:
     {
         return m_window.findChild<QLabel *>(QString::fromLatin1(name))->text();
     }
-
-    HostFixture m_host;
-    QStringList m_errors;
-    ModuleLibrary m_module;
-    MainWindow m_window;
 };
 
 TEST_F(MainWindowTest, TheMenuComesFromTheModule)

@@ -16,6 +16,13 @@
 
 namespace vortaq {
 
+namespace {
+
+constexpr int UsualRows = 12; // with the header
+constexpr int LeastRows = 4;
+
+} // namespace
+
 LookupDialog::LookupDialog(LookupModel &model, const QString &filter, int rowHeight, QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
     , m_model(model)
@@ -65,8 +72,15 @@ void LookupDialog::dressTable(int rowHeight)
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->setMinimumSize(fontMetrics().averageCharWidth() * 36, height * 12);
+    const int width = fontMetrics().averageCharWidth() * 36;
+    m_table->setMinimumSize(width, height * LeastRows);
+    m_preferred = QSize(width, height * UsualRows);
     connect(m_table, &QTableView::doubleClicked, this, &LookupDialog::take);
+}
+
+QSize LookupDialog::sizeHint() const
+{
+    return QDialog::sizeHint() - m_table->sizeHint().expandedTo(m_table->minimumSize()) + m_preferred;
 }
 
 void LookupDialog::applyFilter(const QString &text)

@@ -23,6 +23,8 @@ public:
 
     /// The packet's row that was taken; -1 when there is none.
     [[nodiscard]] int chosenRow() const { return m_chosenRow; }
+    /// Room for a dozen rows; a small screen gets fewer.
+    [[nodiscard]] QSize sizeHint() const override;
     void setVisible(bool visible) override;
 
 protected:
@@ -38,6 +40,7 @@ private:
     QLineEdit *m_filter;
     QTableView *m_table;
     QLabel *m_count;
+    QSize m_preferred; // of the table
     int m_chosenRow = -1;
 };
 

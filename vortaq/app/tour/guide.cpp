@@ -53,6 +53,13 @@ void focusByMouse(QWidget &widget)
     target->setFocus(Qt::MouseFocusReason);
 }
 
+/// Scrolls an entry into view; the middle of what is seen of it, which on a narrow screen may be less than the whole.
+QPoint reach(QAbstractItemView &view, const QModelIndex &index)
+{
+    view.scrollTo(index);
+    return view.visualRect(index).intersected(view.viewport()->rect()).center();
+}
+
 QString describe(const QWidget &modal)
 {
     const auto *box = qobject_cast<const QMessageBox *>(&modal);
@@ -101,14 +108,12 @@ void Guide::doubleClick(QWidget &widget, const QPoint &position)
 
 void Guide::clickIndex(QAbstractItemView &view, const QModelIndex &index)
 {
-    view.scrollTo(index);
-    click(*view.viewport(), view.visualRect(index).center());
+    click(*view.viewport(), reach(view, index));
 }
 
 void Guide::doubleClickIndex(QAbstractItemView &view, const QModelIndex &index)
 {
-    view.scrollTo(index);
-    doubleClick(*view.viewport(), view.visualRect(index).center());
+    doubleClick(*view.viewport(), reach(view, index));
 }
 
 QModelIndex Guide::cell(const QAbstractItemView &grid, int row, const QString &caption)
@@ -149,8 +154,7 @@ void Guide::withModal(const std::function<void()> &act, const std::function<void
 
 void Guide::withMenu(QAbstractItemView &view, const QModelIndex &index, const std::function<void(QMenu &menu)> &inside)
 {
-    view.scrollTo(index);
-    const QPoint position = view.visualRect(index).center();
+    const QPoint position = reach(view, index);
     const auto ask = [&view, position] {
         QContextMenuEvent event(QContextMenuEvent::Mouse, position, view.viewport()->mapToGlobal(position));
         QApplication::sendEvent(view.viewport(), &event);

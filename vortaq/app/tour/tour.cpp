@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -70,7 +71,9 @@ ExitCode runTour(const Options &options)
     createDemo(database);
 
     RunningHost host(options, database, QStringLiteral("演示数据"), MainWindow::Geometry::Fresh);
-    host.window().resize(WindowSize);
+    const QSize room = host.window().screen()->availableSize();
+    if (WindowSize.boundedTo(room) == WindowSize) // a smaller screen has its own size of the window
+        host.window().resize(WindowSize);
     host.window().show();
     ExitCode code = ExitCode::Success;
     QTimer::singleShot(0, &host.window(), [&] {
