@@ -4,10 +4,24 @@
 #include "toolkit/dateformat.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <stdexcept>
 
 namespace toolkit {
+
+namespace {
+
+/// Some servers send a column of days with the time of the day, "2026-10-08 10:30:00.000" or "2026-10-08T10:30:00".
+QString withoutTime(const QString &text)
+{
+    static const QRegularExpression time(
+        QStringLiteral("[ T](?:[01]?[0-9]|2[0-3]):[0-5][0-9](?::[0-5][0-9](?:\\.[0-9]{1,9})?)?$"));
+    const QRegularExpressionMatch match = time.match(text);
+    return match.hasMatch() ? text.left(match.capturedStart()) : text;
+}
+
+} // namespace
 
 QString shortDateFormat()
 {
@@ -22,8 +36,9 @@ QString shortDateFormat()
     return QStringLiteral("yyyy-MM-dd");
 }
 
-QDate parseShortDate(const QString &text)
+QDate parseShortDate(const QString &given)
 {
+    const QString text = withoutTime(given);
     if (const auto date = parseDate(text))
         return *date;
     const QDate date = QDate::fromString(text, shortDateFormat());

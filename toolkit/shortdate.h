@@ -10,7 +10,8 @@ namespace toolkit {
 /// The short date format of the environment's locale (LC_ALL, LC_TIME, LANG); yyyy-MM-dd when none is set there.
 [[nodiscard]] QString shortDateFormat();
 
-/// Reads yyyy-mm-dd or the environment's short format. Throws std::invalid_argument, naming the text, for others.
+/// Reads yyyy-mm-dd or the environment's short format, a time of the day behind it or not. Throws
+/// std::invalid_argument, naming the text, for others.
 [[nodiscard]] QDate parseShortDate(const QString &text);
 
 } // namespace toolkit

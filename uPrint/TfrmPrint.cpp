@@ -9,6 +9,7 @@
 #include "report/TRMReport.h"
 #include "toolkit/TdxTreeList.h"
 #include "toolkit/guard.h"
+#include "toolkit/messageboxes.h"
 #include "toolkit/recordcolumns.h"
 #include "toolkit/shortdate.h"
 #include "toolkit/singleinstance.h"
@@ -68,9 +69,25 @@ void TfrmPrint::FormShow()
 
 void TfrmPrint::btnPrintClick()
 {
+    if (!confirmDates())
+        return;
     loadRows();
     RMReport1->LoadFromFile(print::templatePath(m_ui->rbDate->isChecked() ? DailyTemplate : TotalTemplate));
     RMReport1->ShowReport();
+}
+
+/// No day lies in a range that ends before it begins, which is a slip as a rule.
+bool TfrmPrint::confirmDates()
+{
+    if (m_ui->dtpBegDate->date() <= m_ui->dtpEndDate->date())
+        return true;
+    const bool wanted =
+        toolkit::messageBoxes().ask(this, windowTitle(),
+                                    QStringLiteral("开始日期 %1 晚于结束日期 %2，清单中不会有任何费用。\n仍要打印吗？")
+                                        .arg(m_ui->dtpBegDate->text(), m_ui->dtpEndDate->text()));
+    if (!wanted)
+        m_ui->dtpBegDate->setFocus();
+    return wanted;
 }
 
 void TfrmPrint::loadRows()

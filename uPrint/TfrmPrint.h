@@ -41,6 +41,7 @@ public:
 private:
     void FormShow();
     void btnPrintClick();
+    [[nodiscard]] bool confirmDates();
     void loadRows();
     void RMReport1GetValue(const QString &name, QVariant &value);
 

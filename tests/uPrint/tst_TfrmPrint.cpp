@@ -9,6 +9,7 @@
 #include "tests/support/hands.h"
 #include "tests/support/modalvisit.h"
 #include "toolkit/TdxTreeList.h"
+#include "toolkit/messageboxes.h"
 
 #include <QDateEdit>
 #include <QDir>
@@ -144,6 +145,65 @@ TEST_F(FeeListTest, OpensWithTheDatesOfTheStayAndTheDailyList)
         EXPECT_FALSE(hands::find<QRadioButton>(dialog, "rbAll").isChecked());
     });
     EXPECT_TRUE(calls().isEmpty()) << "nothing is asked before printing";
+}
+
+TEST_F(FeeListTest, ADateWithATimeOfTheDayIsItsDay)
+{
+    for (const char *date : {"2026-10-08 10:30:00", "2026-10-08T10:30:00", "2026-10-08 00:00:00.000",
+                             "2026-10-08T23:59:59.9999999", "2026-10-08 10:30", "2026-10-08 9:30:00"}) {
+        focus(date, "2026-10-09 00:00:00");
+        inDialog([this, date](QWidget &dialog) {
+            EXPECT_EQ(picker(dialog, "dtpBegDate").date(), QDate(2026, 10, 8)) << date;
+            EXPECT_EQ(picker(dialog, "dtpEndDate").date(), QDate(2026, 10, 9)) << date;
+            hands::click(dialog, "btnPrint");
+            EXPECT_EQ(calls(), QStringList({header("o"), items("o", "2026-10-08", "2026-10-09")}));
+        });
+    }
+}
+
+TEST_F(FeeListTest, ATextThatOnlyLooksLikeADateAndATimeIsRefused)
+{
+    for (const char *date : {"2026-10-08 25:30:00", "2026-10-08 10:60:00", "2026-10-08 10", "2026-13-08 10:30:00",
+                             "2026-10-08 10:30:00 x", "10:30:00", "2026-10-08 ", "2026-10-0810:30:00"}) {
+        focus(date, "2026-10-09");
+        EXPECT_THROW(PrintFeeList(m_grid, 1), std::invalid_argument) << date;
+    }
+}
+
+TEST_F(FeeListTest, AReversedRangeIsAskedAboutBeforeAnythingIsAskedOfTheDatabase)
+{
+    struct Boxes final : toolkit::MessageBoxes {
+        QStringList asked;
+        bool answer = false;
+
+        Boxes() { toolkit::setMessageBoxes(this); }
+        ~Boxes() override { toolkit::setMessageBoxes(nullptr); }
+        bool ask(QWidget *, const QString &title, const QString &question) override
+        {
+            asked.append(title + u'|' + question);
+            return answer;
+        }
+        void tell(QWidget *, const QString &, const QString &) override { ADD_FAILURE(); }
+    } boxes;
+    inDialog([this, &boxes](QWidget &dialog) {
+        picker(dialog, "dtpBegDate").setDate(QDate(2026, 3, 2));
+        hands::click(dialog, "btnPrint");
+        EXPECT_EQ(boxes.asked,
+                  QStringList(text("打印费用清单|开始日期 2026-03-02 晚于结束日期 "
+                                   "2026-03-01，清单中不会有任何费用。\n仍要打印吗？")));
+        EXPECT_TRUE(calls().isEmpty());
+        EXPECT_TRUE(m_papers.take().isEmpty());
+        EXPECT_TRUE(dialog.isVisible());
+        // The clerk may have it, with its header.
+        boxes.answer = true;
+        hands::click(dialog, "btnPrint");
+        EXPECT_EQ(calls(), QStringList({header("o"), items("o", "2026-03-02", "2026-03-01")}));
+        EXPECT_EQ(m_papers.take(), QStringList(text("每日 王建国 王会计")));
+        // One day is a range.
+        picker(dialog, "dtpBegDate").setDate(QDate(2026, 3, 1));
+        hands::click(dialog, "btnPrint");
+        EXPECT_EQ(boxes.asked.size(), 2);
+    });
 }
 
 TEST_F(FeeListTest, MakesHostObjectsOfItsOwnForEveryOpening)
