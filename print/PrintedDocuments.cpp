@@ -12,6 +12,8 @@
 #include "toolkit/displayformat.h"
 #include "toolkit/recordcolumns.h"
 
+#include <stdexcept>
+
 namespace print {
 
 namespace {
@@ -23,6 +25,12 @@ const QString OrdinaryHousehold = QStringLiteral("一般农户");
 QString cell(const TdxTreeList &grid, const char *suffix)
 {
     return grid.focusedNode().text(toolkit::columnPosition(grid, suffix));
+}
+
+/// These are fields of the settlement; a report asks for them as variables only when it got none of its columns.
+bool isHeaderAmount(const QString &name)
+{
+    return name.compare(u"Fee", Qt::CaseInsensitive) == 0 || name.compare(u"FreeFee", Qt::CaseInsensitive) == 0;
 }
 
 } // namespace
@@ -115,6 +123,8 @@ void PrintedDocuments::RMReport2GetValue(const QString &name, QVariant &value)
 {
     if (!name.startsWith(u'F'))
         return;
+    if (isHeaderAmount(name))
+        throw std::runtime_error(QStringLiteral("没有取到这次住院的结算数据，不能打印。请刷新后再试。").toStdString());
     const int number = toolkit::parseInteger(name.right(2));
     if (CDSTmp.isEmpty())
         return;

@@ -363,6 +363,29 @@ TEST_F(DocumentTest, AVariableWithoutDigitsFails)
         EXPECT_THROW((void)printed(line), std::exception) << line;
 }
 
+TEST_F(DocumentTest, ASettlementWithoutItsColumnsIsToldInASentence)
+{
+    answerFees();
+    lay("结算单.rmf", "[PatientName] [FTYPE01] [Fee|0.00]");
+    lay("住院审批表.rmf", "[PatientName] [FreeFee|0.00]");
+    for (const bool isSheet : {true, false}) {
+        try {
+            (void)(isSheet ? printSheet() : printForm());
+            ADD_FAILURE() << "printed";
+        } catch (const std::exception &error) {
+            EXPECT_STREQ(error.what(), "没有取到这次住院的结算数据，不能打印。请刷新后再试。");
+        }
+        EXPECT_TRUE(m_papers.take().isEmpty());
+    }
+}
+
+TEST_F(DocumentTest, ASettlementWithoutARowIsAnEmptyForm)
+{
+    answerFees();
+    answer(sheet("o"), {text("PatientName"), text("Fee")}, {});
+    EXPECT_EQ(printed("[PatientName],[Fee|0.00]"), ",");
+}
+
 TEST_F(DocumentTest, TheAmountsStayFilteredUntilTheNextVariable)
 {
     answerFees();
