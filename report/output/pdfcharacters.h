@@ -9,8 +9,9 @@ namespace report {
 class Document;
 
 /// Chinese fonts draw some characters and the radicals of the same shape (生 and ⽣) with one glyph, and the PDF writer
-/// notes the radical as its meaning. Whoever searches the file for a patient's name would not find it, so the character
-/// that the document holds is noted instead. `pdf` keeps its length.
+/// notes the radical as its meaning; of rare characters that take two units of UTF-16 (𠮷) it notes no meaning at all.
+/// Whoever searches the file for a patient's name would not find it, so the character that the document holds is noted
+/// instead.
 void nameThePrintedCharacters(QByteArray &pdf, const Document &document);
 
 } // namespace report

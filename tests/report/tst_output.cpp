@@ -91,6 +91,56 @@ TEST_F(Output, PdfHoldsTheTextInChinese)
               "名称 日期 金额 未定价 2026-11-02 00123 2026-11-03 7.00 合计<元> 1,241.25 第 2 页共 2 页");
 }
 
+/// Characters beyond the basic plane, alone and among the shapes of radicals, in a font and its bold face.
+TEST_F(Output, RareCharactersAreInThePdfAndInTheSheet)
+{
+    TClientDataSet rows;
+    samplepaper::fill(rows, samplepaper::names("Name,Day,Fee"),
+                      {{"𠮷田生", "𡈽", "1"}, {"欧阳𠮷𡈽", "田", "2"}, {"𡉀龙𠮷", "甲", "3"}});
+    TClientDataSet row;
+    samplepaper::fill(row, samplepaper::names("Hospital"), {{"𡈽口𠮷院"}});
+    Document rare(parseTemplate(SmallList, QStringLiteral("小单.rmf")), RowSource(rows), {RowSource(row)}, {});
+    ASSERT_TRUE(writePdf(rare, path("罕.pdf")));
+    const QString text = run(PDFTOTEXT, {QStringLiteral("-layout"), path("罕.pdf"), QStringLiteral("-")});
+    for (const char *wanted : {"𠮷田生", "𡈽 ", "欧阳𠮷𡈽", "𡈽口𠮷院清单", "合计<元>", "龙𠮷"})
+        EXPECT_TRUE(text.contains(QString::fromUtf8(wanted))) << wanted << '\n' << text.toStdString();
+    ASSERT_TRUE(writeSpreadsheet(rare, path("罕.xlsx")));
+    const QString texts = run(UNZIP, {QStringLiteral("-p"), path("罕.xlsx"), QStringLiteral("xl/sharedStrings.xml")});
+    for (const char *wanted : {"<t>𠮷田生</t>", "<t>欧阳𠮷𡈽</t>", "<t>𡈽口𠮷院清单</t>"})
+        EXPECT_TRUE(texts.contains(QString::fromUtf8(wanted))) << wanted;
+}
+
+/// A reader finds every object where the table says, and every stream as long as it says.
+TEST_F(Output, APdfWithOtherMeaningsIsStillInOrder)
+{
+    TClientDataSet rows;
+    samplepaper::fill(rows, samplepaper::names("Name,Day,Fee"), {{"𠮷生𡈽", "田", "1"}});
+    Document rare(parseTemplate(SmallList, QStringLiteral("小单.rmf")), RowSource(rows), {header()}, {});
+    ASSERT_TRUE(writePdf(rare, path("罕.pdf")));
+    QFile file(path("罕.pdf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray pdf = file.readAll();
+    const qsizetype start = pdf.lastIndexOf("startxref\n") + 10;
+    const qsizetype table = pdf.mid(start, pdf.indexOf('\n', start) - start).trimmed().toLongLong();
+    ASSERT_EQ(pdf.mid(table, 5), "xref\n");
+    const QList<QByteArray> lines = pdf.mid(table).split('\n');
+    const int count = lines.at(1).split(' ').at(1).toInt();
+    ASSERT_GT(count, 5);
+    for (int number = 1; number < count; ++number) {
+        const QByteArray begin = QByteArray::number(number) + " 0 obj\n";
+        EXPECT_EQ(pdf.mid(lines.at(2 + number).left(10).toLongLong(), begin.size()), begin);
+    }
+    int meanings = 0;
+    for (qsizetype at = pdf.indexOf("begincmap"); at >= 0; at = pdf.indexOf("begincmap", at + 1)) {
+        const qsizetype stream = pdf.lastIndexOf("stream\n", at) + 7;
+        const qsizetype length = pdf.lastIndexOf("/Length ", stream) + 8;
+        const qsizetype told = pdf.mid(length, pdf.indexOf(' ', length) - length).toLongLong();
+        EXPECT_EQ(pdf.mid(stream + told).trimmed().left(9), "endstream");
+        meanings += static_cast<int>(pdf.mid(stream, told).count("D842DFB7"));
+    }
+    EXPECT_EQ(meanings, 1);
+}
+
 TEST_F(Output, PrinterGetsThePagesThatWereChosen)
 {
     QPrinter printer(QPrinter::HighResolution);
