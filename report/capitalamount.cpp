@@ -12,11 +12,12 @@ namespace report {
 namespace {
 
 constexpr QStringView Digits = u"零壹贰叁肆伍陆柒捌玖";
-constexpr long double Limit = 1e12L;
-constexpr std::int64_t MostCents = 99'999'999'999'999;
+constexpr long double Limit = 1e13L;
+constexpr std::int64_t MostCents = 999'999'999'999'999;
+constexpr std::int64_t HundredMillion = 100'000'000;
 
-/// The four digits of one group (units, ten thousands, hundred millions) with their places; `gap` is a zero that
-/// waits for the next digit.
+/// The four digits of one group (units, ten thousands, hundred millions, ten thousand of those) with their places;
+/// `gap` is a zero that waits for the next digit.
 void appendGroup(QString &text, int group, bool &gap)
 {
     static constexpr QStringView Places[] = {u"仟", u"佰", u"拾", u""};
@@ -43,24 +44,35 @@ QString wholeYuan(std::int64_t yuan)
     const struct {
         std::int64_t unit;
         QStringView name;
-    } groups[] = {{100'000'000, u"亿"}, {10'000, u"万"}, {1, u""}};
+    } groups[] = {{10'000 * HundredMillion, u"万"}, {HundredMillion, u"亿"}, {10'000, u"万"}, {1, u""}};
     for (const auto &[unit, name] : groups) {
         const int group = static_cast<int>(yuan / unit % 10'000);
         appendGroup(text, group, gap);
-        if (group != 0)
+        // 壹万亿 has its 亿 though no digit stands before it.
+        if (group != 0 || (unit == HundredMillion && !text.isEmpty()))
             text += name;
     }
     return text;
 }
 
+/// Larger than MostCents for what is too large or no number.
+std::int64_t toCents(long double yuan)
+{
+    if (!(std::fabs(yuan) < Limit))
+        return MostCents + 1;
+    return toolkit::formatFloat(QStringLiteral("0.00"), std::fabs(yuan)).remove(u'.').toLongLong();
+}
+
 } // namespace
+
+bool hasCapitals(long double yuan)
+{
+    return toCents(yuan) <= MostCents;
+}
 
 QString capitalAmount(long double yuan)
 {
-    const bool tooLarge = !(std::fabs(yuan) < Limit);
-    const std::int64_t cents = tooLarge
-        ? MostCents + 1
-        : toolkit::formatFloat(QStringLiteral("0.00"), std::fabs(yuan)).remove(u'.').toLongLong();
+    const std::int64_t cents = toCents(yuan);
     if (cents > MostCents)
         throw std::out_of_range(QStringLiteral("金额太大，不能写成大写。").toStdString());
     if (cents == 0)

@@ -135,11 +135,9 @@ Evaluator::Value Evaluator::format(const Expression &expression, const QVariant 
     if (!number)
         return {};
     if (expression.inCapitals) {
-        try {
-            return {capitalAmount(*number), std::nullopt};
-        } catch (const std::out_of_range &error) {
-            throw ValueError(error.what());
-        }
+        if (!hasCapitals(*number))
+            return {QStringLiteral("####"), std::nullopt};
+        return {capitalAmount(*number), std::nullopt};
     }
     return {toolkit::formatFloat(expression.format, *number), static_cast<double>(*number)};
 }

@@ -86,6 +86,14 @@ TEST_F(Values, NumbersRoundAsDecimals)
     EXPECT_EQ(text("[Fee|0.00]", {3, 0, 4, 1}), "1234.01");
 }
 
+TEST_F(Values, AmountsWithoutCapitalsAreHidden)
+{
+    samplepaper::fill(m_list, samplepaper::names("Name,Fee"), {{"甲", "9999999999999.99"}, {"乙", "10000000000000"}});
+    EXPECT_EQ(text("[Capital(Fee)]", {0, 0, 1, 1}), "玖万玖仟玖佰玖拾玖亿玖仟玖佰玖拾玖万玖仟玖佰玖拾玖元玖角玖分");
+    EXPECT_EQ(text("人民币：[Capital(Fee)]", {1, 0, 1, 1}), "人民币：####");
+    EXPECT_EQ(text("[Fee|,0.00]", {1, 0, 1, 1}), "10,000,000,000,000.00");
+}
+
 TEST_F(Values, EmptyAmountsStayEmpty)
 {
     EXPECT_EQ(text("[Fee|0.00]", {2, 0, 4, 1}), "");
