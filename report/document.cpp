@@ -62,6 +62,11 @@ Page Document::page(int index) const
 std::optional<Page> Document::endless(const Progress &progress) const
 {
     Layout layout(m_template, m_evaluator, m_fonts, Paging::Endless);
+QString Document::text(const TextPattern &pattern) const
+{
+    return m_evaluator.evaluate(pattern, {0, 0, m_evaluator.rowCount(), 1}).text;
+}
+
     bool stopped = false;
     Page page = layout.next([&](int rows) {
         stopped = progress && !progress(permilleOf(rows, m_evaluator.rowCount()));

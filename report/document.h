@@ -40,6 +40,8 @@ public:
 
     /// Counts from 0. The number of pages in it is "…" until the document is finished.
     [[nodiscard]] Page page(int index) const;
+    /// A text outside of the pages, made of the first row's values. Throws ValueError.
+    [[nodiscard]] QString text(const TextPattern &pattern) const;
     /// The whole document on one endless page, for a spreadsheet; none when it was stopped.
     [[nodiscard]] std::optional<Page> endless(const Progress &progress = {}) const;
 

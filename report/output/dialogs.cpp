@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "report/output/dialogs.h"
 
-#include <QFileDialog>
+#include "report/output/savefiledialog.h"
+
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -26,13 +27,7 @@ public:
 
     QString chooseFile(QWidget *parent, const QString &caption, const QString &name, const QString &suffix) override
     {
-        QFileDialog dialog(parent, caption);
-        dialog.setObjectName(QStringLiteral("dlgSaveReport"));
-        dialog.setAcceptMode(QFileDialog::AcceptSave);
-        dialog.setNameFilter(QStringLiteral("*.") + suffix);
-        dialog.setDefaultSuffix(suffix);
-        dialog.selectFile(name + u'.' + suffix);
-        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+        return askForSaveFile(parent, caption, name, suffix);
     }
 };
 

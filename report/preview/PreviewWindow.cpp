@@ -259,7 +259,7 @@ void PreviewWindow::print()
 void PreviewWindow::savePdf()
 {
     const QString path =
-        dialogs().chooseFile(this, QStringLiteral("保存为 PDF"), fileName(m_document.source()), QStringLiteral("pdf"));
+        dialogs().chooseFile(this, QStringLiteral("保存为 PDF"), fileName(m_document), QStringLiteral("pdf"));
     if (path.isEmpty())
         return;
     const bool done = runJob(QStringLiteral("正在保存 PDF……"),
@@ -271,7 +271,7 @@ void PreviewWindow::savePdf()
 void PreviewWindow::exportSpreadsheet()
 {
     const QString path =
-        dialogs().chooseFile(this, QStringLiteral("导出表格"), fileName(m_document.source()), QStringLiteral("xlsx"));
+        dialogs().chooseFile(this, QStringLiteral("导出表格"), fileName(m_document), QStringLiteral("xlsx"));
     if (path.isEmpty())
         return;
     const bool done = runJob(QStringLiteral("正在导出表格……"), [this, &path](const Progress &progress) {

@@ -77,6 +77,7 @@ struct Template {
     QString file; ///< path as it was given
     int sourceLine = 1; ///< of the outermost element
     QString title;
+    TextPattern fileName; ///< of the document when it is saved
     Unit pageWidth = 0;
     Unit pageHeight = 0;
     Unit marginLeft = 0;

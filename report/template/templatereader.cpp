@@ -56,6 +56,7 @@ public:
 
 private:
     void readReport();
+    [[nodiscard]] TextPattern readFileName(Attributes &attributes) const;
     void readPaper(Attributes &attributes);
     void readBand();
     void checkPage() const;
@@ -97,6 +98,7 @@ void TemplateReader::readReport()
     Attributes attributes(m_xml.attributes(), m_template.file, m_startLine, QStringLiteral("report"));
     m_template.families.push_back(fontFamilies({}));
     m_template.title = attributes.text("title").value_or(QString());
+    m_template.fileName = readFileName(attributes);
     m_template.groupField = attributes.text("group").value_or(QString());
     readPaper(attributes);
     if (const auto columns = attributes.widths("columns", m_template.bodyWidth()))
@@ -107,6 +109,17 @@ void TemplateReader::readReport()
     attributes.checkAllTaken();
     while (nextElement(m_xml, m_template.file))
         readBand();
+}
+
+TextPattern TemplateReader::readFileName(Attributes &attributes) const
+{
+    const auto given = attributes.text("fileName");
+    try {
+        return parsePattern(
+            given.value_or(QString(m_template.title).replace(u'[', QStringLiteral("[[")) + QStringLiteral(" [Today]")));
+    } catch (const std::invalid_argument &error) {
+        attributes.fail("fileName", QStringLiteral("不对：%1").arg(QString::fromUtf8(error.what())));
+    }
 }
 
 void TemplateReader::readPaper(Attributes &attributes)

@@ -9,6 +9,7 @@
 #include "host/clientdataset.h"
 #include "tests/report/samplepaper.h"
 #include "tests/support/hands.h"
+#include "toolkit/clock.h"
 #include "toolkit/messageboxes.h"
 
 #include <QComboBox>
@@ -63,7 +64,7 @@ class Preview : public testing::Test {
 protected:
     Preview()
         : document(
-            parseTemplate("<report title='日/清单' paper='A5'>"
+            parseTemplate("<report title='日/清单' fileName='日/清单 [ItemName] [Today]' paper='A5'>"
                           "<detail height='50'><text x='0' y='0' w='90' h='9'>[ItemName][Check]</text></detail>"
                           "<pageFooter><text x='0' y='0' w='90' h='9'>[Page]/[Pages]</text></pageFooter></report>",
                           QStringLiteral("单.rmf")),
@@ -74,12 +75,14 @@ protected:
     {
         setDialogs(&dialogs);
         toolkit::setMessageBoxes(&boxes);
+        toolkit::setClock([] { return QDate(2026, 11, 21); });
         document.layOutNext();
     }
     ~Preview() override
     {
         setDialogs(nullptr);
         toolkit::setMessageBoxes(nullptr);
+        toolkit::setClock({});
     }
 
     static RowSource items()
@@ -210,7 +213,8 @@ TEST_F(Preview, SavesAndExportsTheWholeDocument)
     press(window, Qt::Key_E, "btnSpreadsheet");
     EXPECT_TRUE(QFileInfo::exists(dialogs.file));
     EXPECT_EQ(dialogs.asked,
-              (QStringList{QStringLiteral("保存为 PDF|日清单|pdf"), QStringLiteral("导出表格|日清单|xlsx")}));
+              (QStringList{QStringLiteral("保存为 PDF|日清单 普通床位费（三人间） 2026-11-21|pdf"),
+                           QStringLiteral("导出表格|日清单 普通床位费（三人间） 2026-11-21|xlsx")}));
 }
 
 TEST_F(Preview, NothingIsWrittenWhenTheClerkCancels)

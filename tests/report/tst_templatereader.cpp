@@ -56,6 +56,7 @@ const Bad BadTemplates[] = {
      "单.rmf, 第2行: <title> 的属性 align 只能是 left、center、right"},
     {"wrongNumber", "<report><title>\n<text x=\"1,5\" y=\"0\" w=\"9\" h=\"9\"/></title></report>",
      "单.rmf, 第2行: <text> 的属性 x 应是 0 到 2000 之间的毫米数，现为“1,5”"},
+    {"wrongFileName", "<report\n fileName='[Name'/>", "单.rmf, 第2行: <report> 的属性 fileName 不对：“[”没有对应的“]”"},
     {"notANumber", "<report><title>\n<text x=\"nan\" y=\"0\" w=\"9\" h=\"9\"/></title></report>",
      "单.rmf, 第2行: <text> 的属性 x 应是 0 到 2000 之间的毫米数，现为“nan”"},
     {"missingPlace", "<report><title>\n<text x=\"1\" w=\"9\" h=\"9\"/></title></report>",
@@ -150,6 +151,19 @@ TEST(TemplateReader, ReadsPaperAndStyles)
     EXPECT_EQ(text.padding, 0);
     EXPECT_EQ(text.sides, NoSide);
     EXPECT_EQ(form->titleBand->height, 600);
+}
+
+TEST(TemplateReader, FilesAreNamedByTitleAndDateUnlessItSaysOtherwise)
+{
+    const auto shown = [](const QByteArray &xml) {
+        QString text;
+        const TemplatePtr form = parse(xml);
+        for (const PatternPiece &piece : form->fileName.pieces)
+            text += piece.literal + u'|' + piece.expression.name;
+        return text.toStdString();
+    };
+    EXPECT_EQ(shown("<report title='清单[总]'/>"), "清单[总] |Today");
+    EXPECT_EQ(shown("<report title='清单' fileName='单 [PatientName]'/>"), "单 |PatientName");
 }
 
 TEST(TemplateReader, LineBreaksOfTheFileAreNoText)
