@@ -54,19 +54,22 @@ Page Document::page(int index) const
         if (!text.text.contains(QChar(PageCountMark)))
             continue;
         text.text.replace(QChar(PageCountMark), count);
-        fitText(m_fonts, text);
+        if (!text.parted)
+            placeText(m_fonts, text, fitText(m_fonts, *text.item, text.text, text.box));
+        for (TextLine &line : text.lines)
+            line.text.replace(QChar(PageCountMark), count);
     }
     return page;
 }
 
-std::optional<Page> Document::endless(const Progress &progress) const
-{
-    Layout layout(m_template, m_evaluator, m_fonts, Paging::Endless);
 QString Document::text(const TextPattern &pattern) const
 {
     return m_evaluator.evaluate(pattern, {0, 0, m_evaluator.rowCount(), 1}).text;
 }
 
+std::optional<Page> Document::endless(const Progress &progress) const
+{
+    Layout layout(m_template, m_evaluator, m_fonts, Paging::Endless);
     bool stopped = false;
     Page page = layout.next([&](int rows) {
         stopped = progress && !progress(permilleOf(rows, m_evaluator.rowCount()));

@@ -9,17 +9,21 @@ namespace report {
 
 class Fonts;
 
+/// Places count from the band's corner.
 struct MeasuredBand {
+    const Band *source = nullptr; ///< lives as long as the template
     Unit height = 0;
-    Page content; ///< places count from the band's corner; a box's sides are strokes already
+    std::vector<TextBox> texts;
+    std::vector<Stroke> lines;
 };
 
-/// Throws TemplateError, with the line of the text, for a value that the text cannot be made of.
-[[nodiscard]] MeasuredBand measureBand(const Template &source, const Band &band, const Evaluator &evaluator,
-                                       const Place &place, const Fonts &fonts);
+/// The values of a band's texts, not yet in lines. Throws TemplateError, with the line of the text, for a value that
+/// the text cannot be made of.
+[[nodiscard]] std::vector<TextBox> valuesOf(const Template &source, const Band &band, const Evaluator &evaluator,
+                                            const Place &place);
 
-/// Cuts a band that no page can hold: what lies below `height` is left out, and a text that reaches over it ends in an
-/// ellipsis.
-void cutBand(MeasuredBand &band, Unit height, const Fonts &fonts);
+/// Makes the boxes as high as their texts; text in boxes that grow is printed so many tenths of a point smaller.
+[[nodiscard]] MeasuredBand measureBand(const Band &band, std::vector<TextBox> values, const Fonts &fonts,
+                                       int smaller = 0);
 
 } // namespace report

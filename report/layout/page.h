@@ -40,7 +40,8 @@ struct TextBox {
     Rect box;
     QString text; ///< whole, whatever of it the box can hold
     FontStyle font; ///< that of the lines, which may be smaller than the template's
-    std::vector<TextLine> lines;
+    std::vector<TextLine> lines; ///< empty ones included
+    bool parted = false; ///< a page break went through the box; its lines are not broken anew
     std::optional<double> number; ///< the text is this number in a display format
     const TextItem *item = nullptr; ///< lives as long as the template
 };

@@ -47,31 +47,44 @@ std::vector<Stroke> merged(std::vector<Stroke> strokes)
     return result;
 }
 
+void addSides(const TextBox &text, std::vector<Stroke> &strokes)
+{
+    const Rect &box = text.box;
+    const Sides sides = text.item->sides;
+    const Unit width = text.item->lineWidth;
+    if ((sides & LeftSide) != 0)
+        strokes.push_back({box.left, box.top, box.left, box.bottom(), width});
+    if ((sides & TopSide) != 0)
+        strokes.push_back({box.left, box.top, box.right(), box.top, width});
+    if ((sides & RightSide) != 0)
+        strokes.push_back({box.right(), box.top, box.right(), box.bottom(), width});
+    if ((sides & BottomSide) != 0)
+        strokes.push_back({box.left, box.bottom(), box.right(), box.bottom(), width});
+}
+
 } // namespace
 
 void PageBuilder::add(MeasuredBand band, Unit left, Unit top)
 {
-    for (Fill &fill : band.content.fills) {
-        fill.area.left += left;
-        fill.area.top += top;
-        m_page.fills.push_back(fill);
+    for (Stroke &line : band.lines) {
+        line.left += left;
+        line.right += left;
+        line.top += top;
+        line.bottom += top;
+        m_page.strokes.push_back(line);
     }
-    for (Stroke &stroke : band.content.strokes) {
-        stroke.left += left;
-        stroke.right += left;
-        stroke.top += top;
-        stroke.bottom += top;
-        m_page.strokes.push_back(stroke);
-    }
-    for (TextBox &text : band.content.texts) {
+    for (TextBox &text : band.texts) {
         text.box.left += left;
         text.box.top += top;
         for (TextLine &line : text.lines) {
             line.left += left;
             line.baseline += top;
         }
+        addSides(text, m_page.strokes);
+        if (text.item->fill)
+            m_page.fills.push_back({text.box, *text.item->fill});
     }
-    std::move(band.content.texts.begin(), band.content.texts.end(), std::back_inserter(m_page.texts));
+    std::move(band.texts.begin(), band.texts.end(), std::back_inserter(m_page.texts));
 }
 
 Page PageBuilder::finish()

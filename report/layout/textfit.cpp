@@ -18,20 +18,24 @@ constexpr Unit VerticalPadding = 60;
 /// In ems: lines follow each other at this distance, and a Chinese character reaches so far above its baseline.
 constexpr double LineSpacing = 1.3;
 constexpr double Ascent = 0.88;
-/// Printing gets smaller in steps of this, to this size (tenths of a point).
-constexpr int ShrinkStep = 5;
-constexpr int SmallestSize = 50;
+/// Amounts get as small as this (tenths of a point) before they are given up.
+constexpr int SmallestAmount = 50;
 /// A text this much too wide still counts as fitting: measures are rounded.
 constexpr double Tolerance = 1;
 
 constexpr QChar Ellipsis = u'…';
 
-Unit lineHeight(const FontStyle &font)
+struct Lines {
+    QStringList texts;
+    bool splitDigits = false; ///< a number too wide for the box goes on in the next line
+};
+
+bool belongsToNumber(QChar character)
 {
-    return static_cast<Unit>(std::lround(LineSpacing * Fonts::em(font)));
+    return (character >= u'0' && character <= u'9') || character == u',' || character == u'.';
 }
 
-void appendBroken(const Fonts &fonts, const FontStyle &style, const QString &paragraph, Unit width, QStringList &lines)
+void appendBroken(const Fonts &fonts, const FontStyle &style, const QString &paragraph, Unit width, Lines &lines)
 {
     QTextLayout layout(paragraph, fonts.font(style));
     QTextOption option;
@@ -40,10 +44,13 @@ void appendBroken(const Fonts &fonts, const FontStyle &style, const QString &par
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width + Tolerance);
+        const int end = line.textStart() + line.textLength();
+        if (end < paragraph.size() && end > 0)
+            lines.splitDigits |= belongsToNumber(paragraph[end - 1]) && belongsToNumber(paragraph[end]);
         QString text = paragraph.mid(line.textStart(), line.textLength());
         while (text.endsWith(u' '))
             text.chop(1);
-        lines.append(text);
+        lines.texts.append(text);
     }
     layout.endLayout();
 }
@@ -53,120 +60,225 @@ bool isWider(const Fonts &fonts, const FontStyle &style, const QString &text, Un
     return fonts.width(style, text) > width + Tolerance;
 }
 
-QStringList brokenLines(const Fonts &fonts, const FontStyle &style, const QString &text, bool wrap, Unit width)
-{
-    QStringList lines;
-    for (const QString &paragraph : text.split(u'\n')) {
-        if (wrap && isWider(fonts, style, paragraph, width))
-            appendBroken(fonts, style, paragraph, width, lines);
-        else
-            lines.append(paragraph);
-    }
-    return lines;
-}
-
 int roomForLines(const FontStyle &font, Unit height)
 {
+    // A single line may be taller than a low box: there is nothing to gain by leaving it out.
     return std::max(1, height / lineHeight(font));
 }
 
-bool fits(const Fonts &fonts, const FontStyle &style, const QStringList &lines, Unit width, Unit height)
-{
-    // A single line may be taller than a low box: there is nothing to gain by leaving it out.
-    if (lines.size() > roomForLines(style, height))
-        return false;
-    return std::none_of(lines.begin(), lines.end(),
-                        [&](const QString &line) { return isWider(fonts, style, line, width); });
-}
-
-QString hashes(const Fonts &fonts, const FontStyle &style, Unit width)
-{
-    const double each = fonts.width(style, u"#");
-    return QString(std::max(1, static_cast<int>(width / each)), u'#');
-}
-
-void cutLines(const Fonts &fonts, const FontStyle &style, QStringList &lines, Unit width, Unit height)
-{
-    const int room = roomForLines(style, height);
-    if (lines.size() > room) {
-        lines.resize(room);
-        lines.last() += Ellipsis;
+/// One text on its way to the size and the lines that suit its box.
+class Fitting {
+public:
+    Fitting(const Fonts &fonts, const TextItem &item, const QString &text, const Rect &box)
+        : m_fonts(fonts)
+        , m_item(item)
+        , m_text(text)
+        , m_width(std::max(1, box.width - 2 * item.padding))
+        , m_height(box.height)
+        , m_style(item.font)
+    {
     }
-    for (QString &line : lines) {
-        if (isWider(fonts, style, line, width))
-            line = fonts.metrics(style).elidedText(line, Qt::ElideRight, width);
-    }
-}
 
-void placeLines(const Fonts &fonts, TextBox &target, const QStringList &lines)
+    [[nodiscard]] FittedText result(int smaller);
+
+private:
+    /// Breaks the text in the current size; true when the box holds the lines.
+    bool attempt(bool wrap);
+    /// Takes the largest size in which the box holds the text; false when it does in none of them.
+    bool shrink(bool wrap, int from, int smallest);
+    void measure();
+    [[nodiscard]] bool isHopeless(int size, bool wrap) const;
+    void growWith(int size);
+    void cut();
+    void hideAmount();
+    void hideWideNumbers();
+
+    const Fonts &m_fonts;
+    const TextItem &m_item;
+    QString m_text;
+    Unit m_width;
+    Unit m_height;
+    FontStyle m_style;
+    Lines m_lines;
+    bool m_grows = false;
+    double m_widest = 0; ///< paragraph in the template's size
+    double m_together = 0; ///< all paragraphs side by side
+};
+
+bool Fitting::attempt(bool wrap)
 {
-    const TextItem &item = *target.item;
-    const Unit height = lineHeight(target.font);
-    const Unit spare = target.box.height - height * static_cast<Unit>(lines.size());
-    Unit top = target.box.top + spare / 2;
-    if (item.vertical == VerticalAlign::Top)
-        top = target.box.top + std::min(VerticalPadding, std::max(0, spare));
-    else if (item.vertical == VerticalAlign::Bottom)
-        top = target.box.bottom() - height * static_cast<Unit>(lines.size());
-    const double em = Fonts::em(target.font);
-    const Unit above = static_cast<Unit>(std::lround((LineSpacing - 1) / 2 * em + Ascent * em));
-    const Unit width = target.box.width - 2 * item.padding;
-    target.lines.clear();
-    for (const QString &line : lines) {
-        Unit left = target.box.left + item.padding;
-        if (item.horizontal != HorizontalAlign::Left) {
-            const Unit free = width - static_cast<Unit>(std::lround(fonts.width(target.font, line)));
-            left += item.horizontal == HorizontalAlign::Right ? free : free / 2;
+    m_lines = {};
+    bool narrowEnough = true;
+    for (const QString &paragraph : m_text.split(u'\n')) {
+        const bool wide = isWider(m_fonts, m_style, paragraph, m_width);
+        if (wide && wrap) {
+            appendBroken(m_fonts, m_style, paragraph, m_width, m_lines);
+        } else {
+            narrowEnough = narrowEnough && !wide;
+            m_lines.texts.append(paragraph);
         }
-        if (!line.isEmpty())
-            target.lines.push_back({left, top + above, line});
-        top += height;
+    }
+    const bool split = m_lines.splitDigits && m_item.text.holdsNumber();
+    return narrowEnough && !split && m_lines.texts.size() <= roomForLines(m_style, m_height);
+}
+
+bool Fitting::shrink(bool wrap, int from, int smallest)
+{
+    if (m_together <= 0)
+        measure();
+    for (m_style.size = from; m_style.size >= smallest; m_style.size -= ShrinkStep) {
+        if (!isHopeless(m_style.size, wrap) && attempt(wrap))
+            return true;
+    }
+    m_style.size += ShrinkStep;
+    return false;
+}
+
+void Fitting::measure()
+{
+    for (const QString &paragraph : m_text.split(u'\n')) {
+        const double width = m_fonts.width(m_item.font, paragraph);
+        m_widest = std::max(m_widest, width);
+        m_together += width;
     }
 }
 
-Unit innerWidth(const TextItem &item, Unit width)
+/// Spares laying out long texts in sizes that cannot do.
+bool Fitting::isHopeless(int size, bool wrap) const
 {
-    return std::max(1, width - 2 * item.padding);
+    constexpr double rounding = 1.02;
+    FontStyle style = m_item.font;
+    style.size = size;
+    const double scale = double(Fonts::em(style)) / Fonts::em(m_item.font) / rounding;
+    const Unit room = wrap ? m_width * roomForLines(style, m_height) : m_width;
+    return (wrap ? m_together : m_widest) * scale > room;
+}
+
+/// All lines in a box as high as they need.
+void Fitting::growWith(int size)
+{
+    m_grows = true;
+    m_style.size = size;
+    m_height = lineHeight(m_style);
+    (void)attempt(true);
+    while (m_lines.splitDigits && m_item.text.holdsNumber() && m_style.size - ShrinkStep >= SmallestAmount) {
+        m_style.size -= ShrinkStep;
+        (void)attempt(true);
+    }
+    if (m_lines.splitDigits && m_item.text.holdsNumber()) {
+        hideWideNumbers();
+        (void)attempt(true);
+    }
+}
+
+void Fitting::cut()
+{
+    const int room = roomForLines(m_style, m_height);
+    if (m_lines.texts.size() > room) {
+        m_lines.texts.resize(room);
+        m_lines.texts.last() += Ellipsis;
+    }
+    for (QString &line : m_lines.texts) {
+        if (isWider(m_fonts, m_style, line, m_width))
+            line = m_fonts.metrics(m_style).elidedText(line, Qt::ElideRight, m_width);
+    }
+}
+
+void Fitting::hideAmount()
+{
+    const double each = m_fonts.width(m_style, u"#");
+    m_lines.texts = {QString(std::max(1, static_cast<int>(m_width / each)), u'#')};
+}
+
+void Fitting::hideWideNumbers()
+{
+    QString text;
+    QString number;
+    for (const QChar character : m_text + QChar()) {
+        if (belongsToNumber(character)) {
+            number += character;
+            continue;
+        }
+        text += isWider(m_fonts, m_style, number, m_width) ? QStringLiteral("####") : number;
+        text += character;
+        number.clear();
+    }
+    m_text = text.chopped(1);
+}
+
+FittedText Fitting::result(int smaller)
+{
+    const int usual = m_item.font.size;
+    const int floor = std::min(usual, SmallestWords);
+    if (m_item.overflow == Overflow::Grow) {
+        growWith(std::max(floor, usual - smaller));
+    } else if (attempt(m_item.wrap)) {
+        // as the template has it
+    } else if (m_item.overflow == Overflow::Clip && !m_item.text.holdsNumber()) {
+        cut();
+    } else if (m_item.text.isAmount()) {
+        if (!shrink(m_item.wrap, usual - ShrinkStep, std::min(usual, SmallestAmount)))
+            hideAmount();
+    } else if (!shrink(m_item.wrap, usual - ShrinkStep, floor) && (m_item.wrap || !shrink(true, usual, floor))) {
+        growWith(floor);
+    }
+    FittedText fitted{m_style.size, m_lines.texts, 0};
+    if (m_grows)
+        fitted.height = heightOfLines(m_style, fitted.lines.size());
+    return fitted;
 }
 
 } // namespace
 
-BrokenText breakText(const Fonts &fonts, const TextItem &item, Unit width, const QString &text)
+Unit lineHeight(const FontStyle &font)
 {
-    BrokenText broken;
-    broken.lines = brokenLines(fonts, item.font, text, item.wrap, innerWidth(item, width));
-    broken.height = lineHeight(item.font) * static_cast<Unit>(broken.lines.size()) + 2 * VerticalPadding;
-    return broken;
+    return static_cast<Unit>(std::lround(LineSpacing * Fonts::em(font)));
 }
 
-void fitText(const Fonts &fonts, TextBox &target)
+Unit heightOfLines(const FontStyle &font, qsizetype lines)
 {
-    const TextItem &item = *target.item;
-    const Unit width = innerWidth(item, target.box.width);
-    fitText(fonts, target, brokenLines(fonts, item.font, target.text, item.wrap, width));
+    return lineHeight(font) * static_cast<Unit>(lines) + 2 * VerticalPadding;
 }
 
-void fitText(const Fonts &fonts, TextBox &target, QStringList lines)
+FittedText fitText(const Fonts &fonts, const TextItem &item, const QString &text, const Rect &box, int smaller)
 {
-    const TextItem &item = *target.item;
-    target.font = item.font;
+    if (text.isEmpty())
+        return {item.font.size, {}, 0};
+    return Fitting(fonts, item, text, box).result(smaller);
+}
+
+void placeText(const Fonts &fonts, TextBox &target, const FittedText &fitted)
+{
+    target.font = target.item->font;
+    target.font.size = fitted.size;
     target.lines.clear();
-    if (target.text.isEmpty())
-        return;
-    const Unit width = innerWidth(item, target.box.width);
-    const bool mustStayWhole = item.text.holdsNumber();
-    bool whole = fits(fonts, target.font, lines, width, target.box.height);
-    while (!whole && (mustStayWhole || item.overflow == Overflow::Shrink)
-           && target.font.size - ShrinkStep >= SmallestSize) {
-        target.font.size -= ShrinkStep;
-        lines = brokenLines(fonts, target.font, target.text, item.wrap, width);
-        whole = fits(fonts, target.font, lines, width, target.box.height);
+    for (const QString &line : fitted.lines)
+        target.lines.push_back({0, 0, line});
+    placeLines(fonts, target, target.item->vertical);
+}
+
+void placeLines(const Fonts &fonts, TextBox &target, VerticalAlign vertical)
+{
+    const TextItem &item = *target.item;
+    const Unit height = lineHeight(target.font);
+    const Unit spare = target.box.height - height * static_cast<Unit>(target.lines.size());
+    Unit top = target.box.top + spare / 2;
+    if (vertical == VerticalAlign::Top)
+        top = target.box.top + std::min(VerticalPadding, std::max(0, spare));
+    else if (vertical == VerticalAlign::Bottom)
+        top = target.box.top + spare;
+    const double em = Fonts::em(target.font);
+    const Unit above = static_cast<Unit>(std::lround((LineSpacing - 1) / 2 * em + Ascent * em));
+    const Unit width = target.box.width - 2 * item.padding;
+    for (TextLine &line : target.lines) {
+        line.left = target.box.left + item.padding;
+        if (item.horizontal != HorizontalAlign::Left) {
+            const Unit free = width - static_cast<Unit>(std::lround(fonts.width(target.font, line.text)));
+            line.left += item.horizontal == HorizontalAlign::Right ? free : free / 2;
+        }
+        line.baseline = top + above;
+        top += height;
     }
-    if (!whole && mustStayWhole)
-        lines = {hashes(fonts, target.font, width)};
-    else if (!whole)
-        cutLines(fonts, target.font, lines, width, target.box.height);
-    placeLines(fonts, target, lines);
 }
 
 } // namespace report

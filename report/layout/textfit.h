@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Breaks a text into the lines that its box can hold.
+// Breaks a text into lines, and finds the size and the box that hold all of them.
 #pragma once
 
 #include "report/layout/page.h"
@@ -10,18 +10,32 @@ namespace report {
 
 class Fonts;
 
-/// A text in lines of the template's font. Lines break at word boundaries or, failing that, anywhere.
-struct BrokenText {
-    QStringList lines;
-    Unit height = 0; ///< that a box needs to hold them all
-};
-[[nodiscard]] BrokenText breakText(const Fonts &fonts, const TextItem &item, Unit width, const QString &text);
+/// Type gets smaller in steps of this (tenths of a point).
+inline constexpr int ShrinkStep = 5;
+/// Words are not printed smaller than this, unless the template says so; they wrap instead.
+inline constexpr int SmallestWords = 75;
 
-/// Sets `target.lines` and `target.font` from `target.item`, `target.text` and `target.box`. What the box cannot hold
-/// ends in an ellipsis, but digits of an amount are never cut off: they are printed smaller, and as "####" where no
-/// size will do.
-void fitText(const Fonts &fonts, TextBox &target);
-/// The same for a text that is broken for the width of its box already.
-void fitText(const Fonts &fonts, TextBox &target, QStringList lines);
+struct FittedText {
+    int size = 0; ///< of the font, tenths of a point
+    QStringList lines; ///< broken at word boundaries or, failing that, anywhere
+    Unit height = 0; ///< that a box must have to hold them
+};
+
+/// A text for a box of that width and height. Text that is to be clipped ends in an ellipsis where the box ends;
+/// everything else is printed whole: smaller, then in more lines, then in a box as high as the result says. Digits of
+/// an amount stay on one line; where no size will do they are printed as "####". Text in boxes that grow is printed
+/// `smaller` by so many tenths of a point, but not smaller than words are.
+[[nodiscard]] FittedText fitText(const Fonts &fonts, const TextItem &item, const QString &text, const Rect &box,
+                                 int smaller = 0);
+
+/// Sets font and lines of `target`, whose box they are placed in.
+void placeText(const Fonts &fonts, TextBox &target, const FittedText &fitted);
+/// Places the lines that `target` has into its box.
+void placeLines(const Fonts &fonts, TextBox &target, VerticalAlign vertical);
+
+/// Lines of that font follow each other at this distance.
+[[nodiscard]] Unit lineHeight(const FontStyle &font);
+/// Of a box that holds so many lines.
+[[nodiscard]] Unit heightOfLines(const FontStyle &font, qsizetype lines);
 
 } // namespace report

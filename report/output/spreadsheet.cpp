@@ -23,6 +23,8 @@ constexpr int HalfWay = 500;
 constexpr double PointsPerUnit = 72.0 / UnitsPerInch;
 /// Width of a digit of the sheet's font, which columns are measured in.
 constexpr double UnitsPerCharacter = 195;
+/// Points; spreadsheets know no higher row.
+constexpr double HighestRow = 409;
 constexpr qsizetype LongestSheetName = 31;
 
 [[noreturn]] void fail(const QString &path, const QString &reason)
@@ -124,8 +126,8 @@ void SheetWriter::setSizes()
                                    (columns[at + 1] - columns[at]) / UnitsPerCharacter, nullptr));
     const std::vector<Unit> &rows = m_grid.rowEdges();
     for (std::size_t at = 0; at + 1 < rows.size(); ++at)
-        check(
-            worksheet_set_row(m_sheet, static_cast<lxw_row_t>(at), (rows[at + 1] - rows[at]) * PointsPerUnit, nullptr));
+        check(worksheet_set_row(m_sheet, static_cast<lxw_row_t>(at),
+                                std::min(HighestRow, (rows[at + 1] - rows[at]) * PointsPerUnit), nullptr));
 }
 
 lxw_format *SheetWriter::format(const TextBox &text)

@@ -90,9 +90,11 @@ void BandReader::readText(TemplateStyle style)
     box.width = given.requiredLength("w");
     box.height = given.requiredLength("h");
     const auto fill = given.colour("fill");
+    const auto hidesEmpty = given.yesOrNo("hideEmpty");
     style.take(given, m_template.families);
     given.checkAllTaken();
     addText(box, style, style.sides == NoSide ? 0 : CellPadding, fill, start);
+    m_band.texts.back().text.hidesEmpty = hidesEmpty.value_or(false);
 }
 
 void BandReader::addText(const Rect &box, const TemplateStyle &style, Unit padding, std::optional<QRgb> fill, int line)
@@ -186,6 +188,7 @@ void BandReader::readCell(TableState &table, TemplateStyle style)
     const int columns = given.count("span", table.places.columnCount()).value_or(1);
     const int rows = given.count("rows", MostRows).value_or(1);
     const auto fill = given.colour("fill");
+    const auto hidesEmpty = given.yesOrNo("hideEmpty");
     style.take(given, m_template.families);
     given.checkAllTaken();
     const int row = table.places.rowCount() - 1;
@@ -196,6 +199,7 @@ void BandReader::readCell(TableState &table, TemplateStyle style)
         fail(start, QStringLiteral("这一行放不下这个单元格，表格共 %1 栏").arg(table.places.columnCount()));
     table.cells.push_back({m_band.texts.size(), row, rows, start});
     addText(box, style, CellPadding, fill, start);
+    m_band.texts.back().text.hidesEmpty = hidesEmpty.value_or(false);
 }
 
 void BandReader::closeTable(const TableState &table, const TemplateStyle &style, Unit frame)

@@ -18,11 +18,11 @@ namespace report {
 enum class HorizontalAlign { Left, Center, Right };
 enum class VerticalAlign { Top, Center, Bottom };
 
-/// What becomes of a text that its box cannot hold.
+/// What becomes of a text that its box cannot hold. Where a box gets higher, what stands below moves down.
 enum class Overflow {
     Clip, ///< it ends in an ellipsis
-    Shrink, ///< its font gets smaller, down to a limit; then as Clip
-    Grow ///< the box gets higher, and what stands below moves down
+    Shrink, ///< its font gets smaller, down to a limit; then it wraps; then the box gets higher
+    Grow ///< it wraps, and the box gets higher
 };
 
 /// Sides of a box that are drawn, to be combined.
@@ -50,7 +50,7 @@ struct TextItem {
     HorizontalAlign horizontal = HorizontalAlign::Left;
     VerticalAlign vertical = VerticalAlign::Center;
     bool wrap = false;
-    Overflow overflow = Overflow::Clip;
+    Overflow overflow = Overflow::Shrink;
     Unit padding = 0; ///< on the left and on the right
     Sides sides = NoSide;
     Unit lineWidth = 0;

@@ -16,7 +16,7 @@ struct TemplateStyle {
     std::optional<HorizontalAlign> horizontal; ///< none: numbers on the right, everything else on the left
     VerticalAlign vertical = VerticalAlign::Center;
     bool wrap = false;
-    Overflow overflow = Overflow::Clip;
+    Overflow overflow = Overflow::Shrink;
     Sides sides = NoSide;
     Unit lineWidth = 20;
 

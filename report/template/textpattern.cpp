@@ -89,6 +89,18 @@ bool TextPattern::holdsNumber() const noexcept
     });
 }
 
+bool TextPattern::isAmount() const noexcept
+{
+    return !isLiteral() && std::ranges::all_of(pieces, [](const PatternPiece &piece) {
+        return !piece.hasExpression || !piece.expression.format.isEmpty();
+    });
+}
+
+bool TextPattern::isLiteral() const noexcept
+{
+    return std::ranges::none_of(pieces, [](const PatternPiece &piece) { return piece.hasExpression; });
+}
+
 TextPattern parsePattern(const QString &text)
 {
     TextPattern pattern;

@@ -34,11 +34,16 @@ struct PatternPiece {
 
 struct TextPattern {
     std::vector<PatternPiece> pieces;
+    bool hidesEmpty = false; ///< without a value none of it is printed, so that no unit stands alone
 
     /// The only content is one expression with a display format, so that the text is a number.
     [[nodiscard]] bool isNumber() const noexcept;
     /// Digits stand in it that must never be cut off.
     [[nodiscard]] bool holdsNumber() const noexcept;
+    /// Numbers with a display format are all that it holds beside its literal text.
+    [[nodiscard]] bool isAmount() const noexcept;
+    /// It is the same whatever the values.
+    [[nodiscard]] bool isLiteral() const noexcept;
     [[nodiscard]] bool isEmpty() const noexcept { return pieces.empty(); }
 };
 

@@ -149,12 +149,16 @@ Evaluator::Value Evaluator::evaluate(const TextPattern &pattern, const Place &pl
         return format(expression, value(expression, place));
     }
     Value result;
+    bool hasValue = false;
     for (const PatternPiece &piece : pattern.pieces) {
         result.text += piece.literal;
-        if (piece.hasExpression)
-            result.text += format(piece.expression, value(piece.expression, place)).text;
+        if (!piece.hasExpression)
+            continue;
+        const QString text = format(piece.expression, value(piece.expression, place)).text;
+        hasValue = hasValue || !text.trimmed().isEmpty();
+        result.text += text;
     }
-    return result;
+    return pattern.hidesEmpty && !hasValue && !pattern.isLiteral() ? Value() : result;
 }
 
 } // namespace report

@@ -183,6 +183,32 @@ TEST_F(PrintingTest, AStayWithoutSettlementIsAlertedAndItsFormCarriesTheSummaryB
     EXPECT_EQ(behind(paper(), "患者姓名"), QString()) << "the form has no header row";
 }
 
+TEST_F(PrintingTest, ALongSummaryGoesOnOnASecondPageWithTheBoxesForSignatures)
+{
+    QString summary;
+    for (int step = 1; summary.size() < 1500; ++step)
+        summary += QStringLiteral("第%1步：按比例计算；").arg(step);
+    const QByteArray procedure =
+        QStringLiteral(
+            "insert into v_Procedure(Name,Text) values ('Pro_Zy_FeeInterFace','select ''1&''+cast(FreeFee as "
+            "varchar(20))+''#%1'' from o_CbZyJsb where OrgCode=@OrgCode and CoopMedCode=@CoopMedCode and "
+            "IDNo=@IDNo and DiagNo=@DiagNo and @Type=@Type')")
+            .arg(summary)
+            .toUtf8();
+    open(false, {procedure.constData()});
+    focusCandidate(0);
+    hands::click(form(), "btnFeeGs");
+    const QStringList boxes = paper();
+    EXPECT_TRUE(boxes.contains(text("第 1 页　共 2 页")));
+    EXPECT_TRUE(boxes.contains(text("第 2 页　共 2 页")));
+    const QString first = behind(boxes, "计算说明");
+    const QString second = behind(boxes.mid(boxes.indexOf(first)), "计算说明");
+    EXPECT_EQ(first + second, summary);
+    EXPECT_GT(boxes.indexOf(text("审批")), boxes.indexOf(second));
+    EXPECT_TRUE(boxes.contains(text("审批表（续）　患者：王建国　　医疗证号：0012")));
+    EXPECT_EQ(m_desk->errors().join(u'\n').toStdString(), "");
+}
+
 TEST_F(PrintingTest, WithoutAProcedureTheLibraryIsTried)
 {
     open(false);

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 using namespace report;
@@ -171,7 +173,7 @@ text 1000,2638 5000x800 s100 |1000,3172 共2|
 )");
 }
 
-TEST(Layout, ARowTooTallForAnyPageStandsAloneAndIsCut)
+TEST(Layout, ARowTooTallForAnyPageBeginsOnItsOwnAndGoesOnOnTheNext)
 {
     std::string tall;
     for (int at = 0; at < 60; ++at)
@@ -186,21 +188,151 @@ TEST(Layout, ARowTooTallForAnyPageStandsAloneAndIsCut)
     ASSERT_EQ(page.texts.size(), 1U);
     EXPECT_EQ(page.texts[0].box, (Rect{1000, 1000, 2000, 19000}));
     EXPECT_EQ(page.texts[0].lines.size(), 41U); // of 4.59 mm
-    EXPECT_EQ(page.texts[0].lines.back().text, QStringLiteral("一二三四…"));
+    EXPECT_EQ(page.texts[0].lines.back().text, QStringLiteral("一二三四五"));
     EXPECT_EQ(page.strokes.back(), (Stroke{3000, 1000, 3000, 20000, 20}));
     EXPECT_EQ(page.strokes[1], (Stroke{1000, 20000, 3000, 20000, 20}));
-    EXPECT_EQ(document.page(2).texts.at(0).text, QStringLiteral("后"));
+    const Page last = document.page(2);
+    ASSERT_EQ(last.texts.size(), 2U);
+    EXPECT_EQ(last.texts[0].box, (Rect{1000, 1000, 2000, 8841}));
+    EXPECT_EQ(last.texts[0].lines.size(), 19U);
+    EXPECT_EQ(page.texts[0].text + last.texts[0].text, QString::fromStdString(tall));
+    EXPECT_EQ(last.texts[1].text, QStringLiteral("后"));
+    EXPECT_EQ(last.texts[1].box.top, 9841);
 }
 
-TEST(Layout, TextsThatDoNotFitEndInAnEllipsisOrShrink)
+constexpr const char *Form = "<title><table columns='10,40,*' rowHeight='10' frame='0.5'>"
+                             "<row><cell rows='2'>说<br/>明</cell><cell>名</cell><cell>[Name]</cell></row>"
+                             "<row height='20'><cell>算</cell><cell overflow='grow' valign='top'>[Day]</cell></row>"
+                             "<row height='40'><cell>签</cell><cell>甲</cell><cell>乙</cell></row>"
+                             "</table></title>";
+
+std::string repeated(const char *text, int count)
+{
+    std::string result;
+    for (int at = 0; at < count; ++at)
+        result += text;
+    return result;
+}
+
+/// 78 mm beside the captions, 76 inside the padding: 21 characters of 10 points a line.
+TEST(Layout, ATitleGoesOnOnTheNextPageAndKeepsBoxesWhole)
 {
     Document document =
-        makeDocument("<title><text x='0' y='0' w='18' h='6'>一二三四五六</text>"
-                     "<text x='0' y='10' w='18' h='6' overflow='shrink'>一二三四五六</text>"
-                     "<text x='0' y='20' w='18' h='10' wrap='yes'>一二三四五六七八九十甲乙</text></title>",
-                     {});
+        makeDocument(list({Form, Foot}), {{"张", "1", repeated("一二三四五六七八九十甲", 21 * 60 / 11)}});
+    ASSERT_TRUE(document.finish());
+    ASSERT_EQ(document.pageCount(), 2);
+    const Page first = document.page(0);
+    const Page second = document.page(1);
+    // The calculation fills the first page to its footer; frame and sides are closed there and begin again.
+    EXPECT_EQ(first.texts.at(4).box, (Rect{6000, 2000, 7800, 17000}));
+    EXPECT_EQ(first.texts.at(4).lines.size(), 36U);
+    const auto has = [](const Page &page, const Stroke &wanted) {
+        return std::find(page.strokes.begin(), page.strokes.end(), wanted) != page.strokes.end();
+    };
+    EXPECT_TRUE(has(first, {1000, 19000, 13800, 19000, 50}));
+    EXPECT_TRUE(has(second, {1000, 1000, 13800, 1000, 50}));
+    // Captions stand again, the rest of the calculation follows, and the row for signatures is as high as ever.
+    EXPECT_EQ(second.texts.at(0).text, QStringLiteral("说\n明"));
+    EXPECT_EQ(second.texts.at(1).text, QStringLiteral("算"));
+    EXPECT_EQ(second.texts.at(2).lines.size(), 24U);
+    for (const std::size_t at : {3U, 4U, 5U})
+        EXPECT_EQ(second.texts.at(at).box.height, 4000);
+    EXPECT_EQ(second.texts.back().text, QStringLiteral("2/2"));
+}
+
+TEST(Layout, AFormStaysOnOnePageWhileSmallerTypeCanKeepItThere)
+{
+    Document document =
+        makeDocument(list({Form, Foot}), {{"张", "1", repeated("一二三四五六七八九十甲", 1 + 21 * 30 / 11)}});
+    ASSERT_TRUE(document.finish());
+    ASSERT_EQ(document.pageCount(), 1);
+    EXPECT_LT(document.page(0).texts.at(4).font.size, 100);
+    EXPECT_GE(document.page(0).texts.at(4).font.size, 75);
+}
+
+TEST(Layout, HeadingsAreNotLeftAloneBelowATitle)
+{
+    const QByteArray title = "<title height='150'><text x='0' y='0' w='50' h='8'>题</text></title>";
+    Document document = makeDocument(title + Heading + Row40, rows(1));
+    EXPECT_EQ(pagedump::texts(document), "10 题\n10 头, 20 行1\n");
+}
+
+TEST(Layout, AFooterOfThePageGrowsAndTakesItsRoomFromTheRows)
+{
+    const QByteArray footer = "<pageFooter height='10'><text x='0' y='0' w='30' h='10' overflow='grow'>[Name][Name]"
+                              "</text></pageFooter>";
+    Document document = makeDocument(
+        Row40 + footer,
+        {{"一二三四五六七八九十", "", ""}, {"短", "", ""}, {"短", "", ""}, {"短", "", ""}, {"短", "", ""}});
+    EXPECT_EQ(pagedump::texts(document),
+              "10 一二三四五六七八九十, 50 短, 90 短, 130 短, 185.03 一二三四五六七八/九十一二三四五六/七八九十\n"
+              "10 短, 190 短短\n");
+}
+
+TEST(Layout, WhatStandsOnEveryPageIsReportedWhenItLeavesNoRoom)
+{
+    for (const char *band : {"pageHeader", "columnHeader", "pageFooter", "groupHeader"}) {
+        const QByteArray xml =
+            "<" + QByteArray(band) + "><text x='0' y='0' w='30' h='8'>[Name]</text></" + band + ">\n" + Row40;
+        Document document = makeDocument(xml, {{repeated("一二三四五", 200), "0", "日"}}, "group='day'");
+        try {
+            (void)document.finish();
+            ADD_FAILURE() << band;
+        } catch (const TemplateError &error) {
+            EXPECT_TRUE(QString::fromUtf8(error.what()).contains(QStringLiteral("一页放不下"))) << error.what();
+        }
+    }
+}
+
+TEST(Layout, TextsThatDoNotFitEndInAnEllipsisOnlyWhereTheTemplateSaysSo)
+{
+    Document document = makeDocument(
+        "<title><text x='0' y='0' w='18' h='6' overflow='clip'>一二三四五六</text>"
+        "<text x='0' y='10' w='18' h='6'>一二三四五六</text>"
+        "<text x='0' y='20' w='18' h='10' wrap='yes' overflow='clip'>一二三四五六七八九十甲乙</text></title>",
+        {});
     EXPECT_EQ(pagedump::texts(document), "10 一二三四…, 20 一二三四五六, 30 一二三四五/六七八九…\n");
     EXPECT_EQ(document.page(0).texts.at(1).font.size, 85);
+}
+
+/// Ten points and 18 mm: five characters; seven and a half: six.
+TEST(Layout, WordsShrinkThenWrapThenMakeTheirBoxHigher)
+{
+    Document document = makeDocument("<title><text x='0' y='0' w='18' h='9'>一二三四五六</text>"
+                                     "<text x='0' y='20' w='18' h='9'>一二三四五六七八</text>"
+                                     "<text x='0' y='40' w='18' h='9'>一二三四五六七八九十甲乙丙丁戊</text>"
+                                     "<text x='0' y='60' w='18' h='6' size='6'>一二三四五六七八九十</text></title>",
+                                     {});
+    EXPECT_EQ(
+        pagedump::texts(document),
+        "10 一二三四五六, 30 一二三四五/六七八, 50 一二三四五六/七八九十甲乙/丙丁戊, 72.55 一二三四五六七八/九十\n");
+    const Page page = document.page(0);
+    EXPECT_EQ(page.texts.at(0).font.size, 85);
+    EXPECT_EQ(page.texts.at(1).font.size, 95) << "two lines may be larger again";
+    EXPECT_EQ(page.texts.at(2).box.height, 3 * 345 + 120) << "three lines of 7.5 points";
+    EXPECT_EQ(page.texts.at(2).font.size, 80) << "and what the room around them allows";
+    EXPECT_EQ(page.texts.at(3).font.size, 60) << "never larger than the template has it";
+}
+
+TEST(Layout, NumbersAmongWordsAreNotTornApart)
+{
+    Document document =
+        makeDocument("<title><text x='0' y='0' w='22' h='6' overflow='grow'>合计[Fee|,0.00]元，[Name]</text>"
+                     "<text x='0' y='30' w='4' h='6' overflow='grow'>计[Fee|0.00]，[Name]</text></title>",
+                     {{"张三", "1234567.89", ""}});
+    EXPECT_EQ(pagedump::texts(document), "10 合计/1,234,567.89/元，张三, 48.97 计/####/，张/三\n");
+}
+
+TEST(Layout, AUnitWithoutAValueIsNotPrinted)
+{
+    const char *const title = "<title><text x='0' y='0' w='30' h='6' hideEmpty='yes'>第 [Fee] 次</text>"
+                              "<text x='0' y='10' w='30' h='6'>第 [Fee] 次</text>"
+                              "<text x='0' y='20' w='30' h='6' hideEmpty='yes'>￥[Fee|0.00]</text>"
+                              "<text x='0' y='30' w='30' h='6' hideEmpty='yes'>说明</text></title>";
+    Document empty = makeDocument(title, {{"", "", ""}});
+    EXPECT_EQ(pagedump::texts(empty), "10 , 20 第  次, 30 , 40 说明\n");
+    Document filled = makeDocument(title, {{"", "2", ""}});
+    EXPECT_EQ(pagedump::texts(filled), "10 第 2 次, 20 第 2 次, 30 ￥2.00, 40 说明\n");
 }
 
 TEST(Layout, DigitsOfAnAmountAreNeverCutOff)

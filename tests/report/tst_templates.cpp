@@ -128,6 +128,46 @@ TEST_F(Papers, SettlementSheetWithoutARecordIsAnEmptyForm)
     EXPECT_EQ(behind("患者姓名"), QStringLiteral("性别"));
 }
 
+TEST_F(Papers, AnEmptyFormHasNoUnitsWithoutValues)
+{
+    for (const char *form : {"结算单.rmf", "住院审批表.rmf"}) {
+        samplepaper::fillSettlement(rows);
+        samplepaper::fill(rows, rows.packet()->columnNames(), {});
+        binding.setDataSet(&rows);
+        load(form);
+        paper.ShowReport();
+        for (const QString &text : target.pages.at(0)) {
+            for (const char *unit : {"第  次", "天", "￥"})
+                EXPECT_NE(text.trimmed().toStdString(), unit) << form;
+        }
+    }
+}
+
+TEST_F(Papers, AmountsOfThirteenDigitsArePrinted)
+{
+    const struct {
+        const char *amount;
+        const char *words;
+    } amounts[] = {{"1000000000000.00", "人民币：壹万亿元整"},
+                   {"9999999999999.99", "人民币：玖万玖仟玖佰玖拾玖亿玖仟玖佰玖拾玖万玖仟玖佰玖拾玖元玖角玖分"},
+                   {"10000000000000.00", "人民币：####"}};
+    for (const auto &[amount, words] : amounts) {
+        samplepaper::fillSettlement(rows);
+        const int column = rows.packet()->columnIndex(u"FreeFee");
+        std::vector<std::string> row;
+        for (int at = 0; at < rows.packet()->columnCount(); ++at)
+            row.emplace_back(at == column ? amount : rows.packet()->text(0, at));
+        samplepaper::fill(rows, rows.packet()->columnNames(), {row});
+        binding.setDataSet(&rows);
+        paper.setOnGetValue(samplepaper::answerFees);
+        load("结算单.rmf");
+        paper.ShowReport();
+        ASSERT_EQ(target.pages.size(), 1U);
+        EXPECT_EQ(behind("补偿金额（大写）").toStdString(), words);
+        EXPECT_EQ(target.cut, QStringList());
+    }
+}
+
 TEST_F(Papers, ApprovalFormCarriesTheCalculation)
 {
     showSettlement("住院审批表.rmf");
@@ -155,6 +195,10 @@ TEST_F(Papers, DailyListGroupsByDay)
               (QStringList{QStringLiteral("2026-01-01 小计（24 项）"), QStringLiteral("2026-01-02 小计（6 项）")}));
     EXPECT_EQ(all.at(all.indexOf(QStringLiteral("2026-01-01 小计（24 项）")) + 1), QStringLiteral("6,785.26"));
     EXPECT_TRUE(all.contains(QStringLiteral("打印人：李会计　　打印日期：2026-11-21")));
+    // Every item says whether it is reimbursed.
+    EXPECT_EQ(all.at(all.indexOf(QStringLiteral("报销")) - 1), QStringLiteral("金额（元）"));
+    EXPECT_EQ(all.count(QStringLiteral("是")), 25);
+    EXPECT_EQ(all.count(QStringLiteral("否")), 5);
 }
 
 TEST_F(Papers, TotalListRepeatsItsHeadingAndNamesThePatientOnEveryPage)
@@ -192,8 +236,9 @@ TEST_F(Papers, EveryCharacterIsInThePdf)
     process.start(QStringLiteral(PDFTOTEXT), {folder.filePath(QStringLiteral("结算单.pdf")), QStringLiteral("-")});
     process.waitForFinished(-1);
     const QString text = QString::fromUtf8(process.readAllStandardOutput());
-    for (const char *wanted : {"住院费用补偿结算单", "急性结石性胆囊炎；胆总管结石；高血压病3级（极高危）；2型糖尿病",
-                               "人民币：肆仟贰佰肆拾玖元陆角肆分", "￥4,249.64"})
+    for (const char *wanted :
+         {"白石镇中心卫生院", "住院费用补偿结算单", "急性结石性胆囊炎；胆总管结石；高血压病3级（极高危）；2型糖尿病",
+          "人民币：肆仟贰佰肆拾玖元陆角肆分", "￥4,249.64"})
         EXPECT_TRUE(text.contains(QString::fromUtf8(wanted))) << wanted << "\n" << text.toStdString();
 }
 
