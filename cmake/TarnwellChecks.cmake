@@ -19,9 +19,11 @@ function(tarnwell_header_check)
   set(folders
       Common
       automation
+      values
       data
       host
       toolkit
+      forms
       report
       print
       uPrint

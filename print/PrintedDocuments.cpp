@@ -3,14 +3,14 @@
 
 #include "data/statements/settlement.h"
 #include "data/tables.h"
+#include "forms/recordcolumns.h"
 #include "host/clientdataset.h"
 #include "host/statementbuffer.h"
 #include "print/templates.h"
 #include "report/TRMDBDataSet.h"
 #include "report/TRMReport.h"
 #include "toolkit/TdxTreeList.h"
-#include "toolkit/displayformat.h"
-#include "toolkit/recordcolumns.h"
+#include "values/displayformat.h"
 
 #include <stdexcept>
 
@@ -24,7 +24,7 @@ const QString OrdinaryHousehold = QStringLiteral("一般农户");
 
 QString cell(const TdxTreeList &grid, const char *suffix)
 {
-    return grid.focusedNode().text(toolkit::columnPosition(grid, suffix));
+    return grid.focusedNode().text(forms::columnPosition(grid, suffix));
 }
 
 /// These are fields of the settlement; a report asks for them as variables only when it got none of its columns.
@@ -71,7 +71,7 @@ void PrintedDocuments::PrintSettlementSheet(const TdxTreeList &grid, int billTyp
 {
     if (!grid.focusedNode())
         return;
-    const data::RecordKey key = toolkit::RecordColumns(grid).key(grid.focusedNode());
+    const data::RecordKey key = forms::RecordColumns(grid).key(grid.focusedNode());
     RMReport2->LoadFromFile(templatePath(SheetTemplate));
     const QString household = householdText(key);
     const QString prefix = data::tablePrefix(billType);
@@ -101,7 +101,7 @@ void PrintedDocuments::PrintApprovalForm(const TdxTreeList &grid, int billType, 
 {
     if (!grid.focusedNode())
         return;
-    const data::RecordKey key = toolkit::RecordColumns(grid).key(grid.focusedNode());
+    const data::RecordKey key = forms::RecordColumns(grid).key(grid.focusedNode());
     data::ApprovalTexts texts;
     texts.limit = limitText(cell(grid, "LimitDef"));
     const QString formula = cell(grid, "ExpressionsID");
@@ -125,7 +125,7 @@ void PrintedDocuments::RMReport2GetValue(const QString &name, QVariant &value)
         return;
     if (isHeaderAmount(name))
         throw std::runtime_error(QStringLiteral("没有取到这次住院的结算数据，不能打印。请刷新后再试。").toStdString());
-    const int number = toolkit::parseInteger(name.right(2));
+    const int number = values::parseInteger(name.right(2));
     if (CDSTmp.isEmpty())
         return;
     CDSTmp.first();

@@ -5,7 +5,7 @@
 #include "host/references.h"
 #include "host/statementbuffer.h"
 #include "print/settlementlibrary.h"
-#include "toolkit/displayformat.h"
+#include "values/displayformat.h"
 
 namespace print {
 
@@ -35,7 +35,7 @@ double SettlementInterface::byProcedure(const data::RecordKey &key, int billType
     const qsizetype ampersand = result.indexOf(u'&') + 1;
     const qsizetype length = hash - ampersand - 1;
     const QString amount = length > 0 ? result.mid(contentBegin, length) : QString();
-    const auto value = static_cast<double>(toolkit::parseAmount(amount));
+    const auto value = static_cast<double>(values::parseAmount(amount));
     m_printInfo = result.mid(hash);
     return value;
 }
@@ -45,7 +45,7 @@ double SettlementInterface::byLibrary(const data::RecordKey &key) const
     const LibraryAnswer answer = askSettlementLibrary(FeeDllPath.trimmed(), key);
     switch (answer.outcome) {
     case LibraryAnswer::Outcome::Amount:
-        return toolkit::roundToCents(answer.amount);
+        return values::roundToCents(answer.amount);
     case LibraryAnswer::Outcome::Refused:
         host::shared().FuncStorage.Alert(answer.error);
         break;

@@ -3,9 +3,9 @@
 #include "toolkit/TdxCurrencyEdit.h"
 
 #include "toolkit/datatip.h"
-#include "toolkit/displayformat.h"
 #include "toolkit/readabletext.h"
 #include "toolkit/shownamount.h"
+#include "values/displayformat.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -30,7 +30,7 @@ void TdxCurrencyEdit::setValue(const QString &text)
     if (text.trimmed().isEmpty())
         clearValue();
     else
-        setValue(toolkit::parseAmount(text));
+        setValue(values::parseAmount(text));
 }
 
 void TdxCurrencyEdit::clearValue()
@@ -47,12 +47,12 @@ void TdxCurrencyEdit::setDisplayFormat(const QString &format)
 
 QString TdxCurrencyEdit::valueText() const
 {
-    return m_value ? toolkit::formatFloat(QString(), *m_value) : QString();
+    return m_value ? values::formatFloat(QString(), *m_value) : QString();
 }
 
 void TdxCurrencyEdit::showValue()
 {
-    setText(m_value ? toolkit::formatFloat(m_displayFormat, *m_value) : QString());
+    setText(m_value ? values::formatFloat(m_displayFormat, *m_value) : QString());
     setCursorPosition(0); // an amount wider than the box shows its beginning, not its cents
 }
 

@@ -4,8 +4,8 @@
 
 #include "toolkit/calendarpopup.h"
 #include "toolkit/clock.h"
-#include "toolkit/dateformat.h"
 #include "toolkit/guard.h"
+#include "values/dateformat.h"
 
 #include <QAction>
 #include <QEvent>
@@ -52,12 +52,12 @@ TdxDateEdit::TdxDateEdit(QWidget *parent)
 
 std::optional<QDate> TdxDateEdit::date() const
 {
-    return toolkit::parseDate(text());
+    return values::parseDate(text());
 }
 
 void TdxDateEdit::setDate(const QDate &date)
 {
-    setText(toolkit::formatDate(date));
+    setText(values::formatDate(date));
 }
 
 void TdxDateEdit::showCalendar()

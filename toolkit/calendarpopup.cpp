@@ -3,8 +3,8 @@
 #include "toolkit/calendarpopup.h"
 
 #include "toolkit/clock.h"
-#include "toolkit/dateformat.h"
 #include "toolkit/guard.h"
+#include "values/dateformat.h"
 
 #include <QCalendarWidget>
 #include <QLocale>
@@ -30,7 +30,7 @@ CalendarPopup::CalendarPopup(const QDate &date, std::function<void(const QDate &
     m_calendar->setSelectedDate(date);
 
     const QDate current = today();
-    auto *todayButton = new QPushButton(QStringLiteral("今天 ") + formatDate(current), this);
+    auto *todayButton = new QPushButton(QStringLiteral("今天 ") + values::formatDate(current), this);
     todayButton->setObjectName(QStringLiteral("btnToday"));
 
     auto *layout = new QVBoxLayout(this);

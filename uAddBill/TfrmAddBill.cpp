@@ -6,6 +6,10 @@
 #include "data/statements/addbill.h"
 #include "data/statements/candidates.h"
 #include "data/statements/savingbill.h"
+#include "forms/hostformats.h"
+#include "forms/keycheck.h"
+#include "forms/recordcolumns.h"
+#include "forms/rowdrawing.h"
 #include "host/change.h"
 #include "host/clientdataset.h"
 #include "host/loaddataset.h"
@@ -14,11 +18,7 @@
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/dialogsize.h"
 #include "toolkit/guard.h"
-#include "toolkit/hostformats.h"
-#include "toolkit/keycheck.h"
 #include "toolkit/readabletext.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/rowdrawing.h"
 #include "uAddBill/columns.h"
 #include "ui_TfrmAddBill.h"
 
@@ -40,9 +40,9 @@ TfrmAddBill::TfrmAddBill(data::BillKey bill, QWidget *parent)
     m_ui->dxTLUp->setColumns(addBillColumns());
     m_ui->dxTLUp->setFixedBand(AddBillFixedBand);
     m_ui->dxTLUp->setEditTriggers(QAbstractItemView::AllEditTriggers); // an editor opens wherever the focus comes
-    m_ui->dxTLUp->setCustomDrawCell(toolkit::billListDrawing());
-    m_ui->dxTLUp->columnByName(QStringLiteral("dxTLUpID"))->setCustomDrawCell(toolkit::rowNumberDrawing());
-    m_checkColumn = toolkit::columnPosition(*m_ui->dxTLUp, "Check");
+    m_ui->dxTLUp->setCustomDrawCell(forms::billListDrawing());
+    m_ui->dxTLUp->columnByName(QStringLiteral("dxTLUpID"))->setCustomDrawCell(forms::rowNumberDrawing());
+    m_checkColumn = forms::columnPosition(*m_ui->dxTLUp, "Check");
     toolkit::keepReadable(*m_ui->edtUpNum);
 
     using toolkit::connectGuarded;
@@ -93,7 +93,7 @@ void TfrmAddBill::CountAddTotals()
 {
     if (m_ui->dxTLUp->count() == 0)
         return;
-    const toolkit::TickedTotals totals = toolkit::sumTicked(*m_ui->dxTLUp, m_checkColumn);
+    const forms::TickedTotals totals = forms::sumTicked(*m_ui->dxTLUp, m_checkColumn);
     m_ui->edtUpNum->setText(QString::number(totals.count));
     m_ui->dxCEUpTotal->setValue(totals.totalFee);
     m_ui->dxCEUpCanFee->setValue(totals.canFreeFee);
@@ -114,12 +114,12 @@ void TfrmAddBill::btnSaveClick()
     if (m_ui->dxTLUp->count() == 0)
         return;
     host::References &host = host::shared();
-    const std::vector<data::RecordKey> records = toolkit::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
+    const std::vector<data::RecordKey> records = forms::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
     if (records.empty()) {
         host.FuncStorage.Alert(QStringLiteral("没有要制单的记录，请打勾选择！"));
         return;
     }
-    if (const QString refusal = toolkit::refusalOfTicked(*m_ui->dxTLUp, m_checkColumn); !refusal.isEmpty()) {
+    if (const QString refusal = forms::refusalOfTicked(*m_ui->dxTLUp, m_checkColumn); !refusal.isEmpty()) {
         host.FuncStorage.Alert(refusal);
         return;
     }

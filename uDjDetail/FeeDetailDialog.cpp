@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "uDjDetail/FeeDetailDialog.h"
 
+#include "forms/hostformats.h"
+#include "forms/rowdrawing.h"
 #include "host/clientdataset.h"
 #include "host/loaddataset.h"
 #include "host/references.h"
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/dialogsize.h"
 #include "toolkit/guard.h"
-#include "toolkit/hostformats.h"
-#include "toolkit/rowdrawing.h"
 #include "uDjDetail/columns.h"
 
 #include <QHeaderView>
@@ -54,7 +54,7 @@ void FeeDetailDialog::takeGrids(QSplitter &splitter, TdxTreeList &feeTypes, TdxT
     m_feeTypes = &feeTypes;
     m_feeItems = &feeItems;
     m_feeTypes->setColumns(feeTypeColumns());
-    m_feeTypes->setCustomDrawCell(toolkit::billListDrawing());
+    m_feeTypes->setCustomDrawCell(forms::billListDrawing());
     toolkit::connectGuarded(m_feeTypes, &TdxTreeList::changeNode, this, Doing, [this] {
         if (m_localChoice->isChecked())
             fillFeeItems();

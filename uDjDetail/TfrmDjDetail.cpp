@@ -2,11 +2,11 @@
 #include "uDjDetail/TfrmDjDetail.h"
 
 #include "data/statements/feedetail.h"
+#include "forms/recordcolumns.h"
+#include "forms/rowdrawing.h"
 #include "host/parameters.h"
 #include "host/references.h"
 #include "toolkit/TdxTreeList.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/rowdrawing.h"
 #include "toolkit/singleinstance.h"
 #include "uDjDetail/columns.h"
 #include "ui_TfrmDjDetail.h"
@@ -17,11 +17,11 @@ std::unique_ptr<TfrmDjDetail> frmDjDetail;
 
 toolkit::CellDrawing itemDrawing(int approvedColumn)
 {
-    return [approvedColumn, rows = toolkit::billListDrawing()](
+    return [approvedColumn, rows = forms::billListDrawing()](
                const TdxTreeListNode &node, const TdxTreeListColumn &column, bool focused, toolkit::CellStyle &style) {
         rows(node, column, focused, style);
         // No row fills that column in this dialog, so its colour never shows.
-        if (!focused && toolkit::isTicked(node, approvedColumn))
+        if (!focused && forms::isTicked(node, approvedColumn))
             style.background =
                 host::toColour(host::shared().FuncStorage.CustomParam(host::parameter::ApprovedItemColour));
     };
@@ -37,7 +37,7 @@ TfrmDjDetail::TfrmDjDetail(data::RecordKey record, QWidget *parent)
     m_ui->setupUi(this);
     setObjectName(QStringLiteral("frmDjDetail"));
     m_ui->dxTLFeeInfo->setColumns(feeItemColumns());
-    m_ui->dxTLFeeInfo->setCustomDrawCell(itemDrawing(toolkit::columnPosition(*m_ui->dxTLFeeInfo, "IsTp")));
+    m_ui->dxTLFeeInfo->setCustomDrawCell(itemDrawing(forms::columnPosition(*m_ui->dxTLFeeInfo, "IsTp")));
     takeGrids(*m_ui->splitter, *m_ui->dxTLFeeType, *m_ui->dxTLFeeInfo);
     takeChoice(*m_ui->rbAll);
     takeLocalChoice(*m_ui->rbLocal);
@@ -69,5 +69,5 @@ void showFeeDetail(const TdxTreeList &grid)
 {
     const TdxTreeListNode row = grid.focusedNode();
     if (row)
-        showFeeDetail(toolkit::RecordColumns(grid).key(row), grid.window());
+        showFeeDetail(forms::RecordColumns(grid).key(row), grid.window());
 }

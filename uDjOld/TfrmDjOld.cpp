@@ -3,16 +3,16 @@
 
 #include "data/codes.h"
 #include "data/statements/feedetail.h"
+#include "forms/recordcolumns.h"
+#include "forms/rowdrawing.h"
 #include "host/parameters.h"
 #include "host/references.h"
 #include "toolkit/TdxTreeList.h"
-#include "toolkit/displayformat.h"
 #include "toolkit/guard.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/rowdrawing.h"
 #include "toolkit/singleinstance.h"
 #include "uDjOld/columns.h"
 #include "ui_TfrmDjOld.h"
+#include "values/displayformat.h"
 
 namespace {
 
@@ -21,13 +21,13 @@ std::unique_ptr<TfrmDjOld> frmDjOld;
 bool isDeducted(const TdxTreeListNode &row, int position)
 {
     const QString amount = row.text(position).trimmed();
-    return !amount.isEmpty() && toolkit::parseAmount(amount) > 0;
+    return !amount.isEmpty() && values::parseAmount(amount) > 0;
 }
 
 toolkit::CellDrawing itemDrawing(int deductionColumn, int approvedColumn)
 {
-    return [=, rows = toolkit::billListDrawing()](const TdxTreeListNode &node, const TdxTreeListColumn &column,
-                                                  bool focused, toolkit::CellStyle &style) {
+    return [=, rows = forms::billListDrawing()](const TdxTreeListNode &node, const TdxTreeListColumn &column,
+                                                bool focused, toolkit::CellStyle &style) {
         rows(node, column, focused, style);
         if (focused)
             return;
@@ -36,7 +36,7 @@ toolkit::CellDrawing itemDrawing(int deductionColumn, int approvedColumn)
         };
         if (isDeducted(node, deductionColumn))
             paint(host::parameter::DeductedItemColour);
-        if (toolkit::isTicked(node, approvedColumn))
+        if (forms::isTicked(node, approvedColumn))
             paint(host::parameter::ApprovedItemColour);
     };
 }
@@ -52,8 +52,7 @@ TfrmDjOld::TfrmDjOld(HistoryRecord record, QWidget *parent)
     setObjectName(QStringLiteral("frmDjOld"));
     TdxTreeList &items = *m_ui->dxTLFeeInfo;
     items.setColumns(historyItemColumns());
-    items.setCustomDrawCell(
-        itemDrawing(toolkit::columnPosition(items, "TwoFee"), toolkit::columnPosition(items, "IsTp")));
+    items.setCustomDrawCell(itemDrawing(forms::columnPosition(items, "TwoFee"), forms::columnPosition(items, "IsTp")));
     takeGrids(*m_ui->splitter, *m_ui->dxTLFeeType, items);
     takeChoice(*m_ui->rbAll);
     takeLocalChoice(*m_ui->rbLocal);

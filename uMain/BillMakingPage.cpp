@@ -4,16 +4,15 @@
 #include "data/captions.h"
 #include "data/codes.h"
 #include "data/statements/candidates.h"
+#include "forms/hostformats.h"
+#include "forms/keycheck.h"
+#include "forms/recordcolumns.h"
+#include "forms/rowdrawing.h"
 #include "host/clientdataset.h"
 #include "host/rightsscope.h"
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/clock.h"
-#include "toolkit/dateformat.h"
 #include "toolkit/guard.h"
-#include "toolkit/hostformats.h"
-#include "toolkit/keycheck.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/rowdrawing.h"
 #include "uDjDetail/TfrmDjDetail.h"
 #include "uMain/InstitutionSearch.h"
 #include "uMain/ReturningRecords.h"
@@ -22,6 +21,7 @@
 #include "uMain/menus.h"
 #include "uMain/workbench.h"
 #include "ui_BillMakingPage.h"
+#include "values/dateformat.h"
 
 #include <QMenu>
 
@@ -37,7 +37,7 @@ BillMakingPage::BillMakingPage(Workbench &workbench, TClientDataSet &scratch, QW
     CDSUp->setObjectName(QStringLiteral("CDSUp"));
     m_ui->dxTLUp->setColumns(candidateColumns());
     m_ui->dxTLUp->setFixedBand(CandidateFixedBand);
-    m_checkColumn = toolkit::columnPosition(*m_ui->dxTLUp, "Check");
+    m_checkColumn = forms::columnPosition(*m_ui->dxTLUp, "Check");
     m_ui->dxTLUp->setPopupMenu(createMenu(
         this, *m_ui->dxTLUp, "pMUp", {{"mCheck", "全部选定"}, {"mUnCheck", "全部取消"}, {"mFeeInfo", "查看费用信息"}}));
     setFocusProxy(m_ui->dxTLUp);
@@ -80,11 +80,11 @@ void BillMakingPage::start()
     LoadUpCandidates();
     m_ui->Panel13->setCaption(m_ui->LbUp, data::reimbursementTitle());
     applyBackground(*m_ui->dxTLUp);
-    m_ui->dxTLUp->setCustomDrawCell(toolkit::billListDrawing());
+    m_ui->dxTLUp->setCustomDrawCell(forms::billListDrawing());
     m_ui->edtPrincipal->setText(m_workbench.host().FuncStorage.UserName());
     m_ui->edtOrgCode->setText(m_workbench.session.OrgCode);
     m_ui->edtOrgName->setText(m_workbench.session.OrgName);
-    m_ui->dxTLUp->columnByName(QStringLiteral("dxTLUpID"))->setCustomDrawCell(toolkit::rowNumberDrawing());
+    m_ui->dxTLUp->columnByName(QStringLiteral("dxTLUpID"))->setCustomDrawCell(forms::rowNumberDrawing());
     m_ui->dxDEWirte->setDate(toolkit::today());
     ApplyMoneyFormat(*m_ui->dxTLUp);
 }
@@ -107,7 +107,7 @@ void BillMakingPage::CalcUpTotals()
 {
     if (m_ui->dxTLUp->count() == 0)
         return;
-    const toolkit::TickedTotals totals = toolkit::sumTicked(*m_ui->dxTLUp, m_checkColumn);
+    const forms::TickedTotals totals = forms::sumTicked(*m_ui->dxTLUp, m_checkColumn);
     m_ui->edtUpNum->setText(QString::number(totals.count));
     m_ui->dxCEUpTotal->setValue(totals.totalFee);
     m_ui->dxCEUpCanFee->setValue(totals.canFreeFee);
@@ -117,7 +117,7 @@ void BillMakingPage::CalcUpTotals()
 bool BillMakingPage::hasTicks() const
 {
     for (int i = 0; i < m_ui->dxTLUp->count(); ++i) {
-        if (toolkit::isTicked(m_ui->dxTLUp->node(i), m_checkColumn))
+        if (forms::isTicked(m_ui->dxTLUp->node(i), m_checkColumn))
             return true;
     }
     return false;
@@ -158,7 +158,7 @@ bool BillMakingPage::headerIsComplete()
         field->setFocus();
         return false;
     };
-    if (!toolkit::parseDate(m_ui->dxDEWirte->text()))
+    if (!values::parseDate(m_ui->dxDEWirte->text()))
         return refuse(QStringLiteral("填表日期有误，请重新输入！"), m_ui->dxDEWirte);
     if (m_ui->edtPrincipal->text().trimmed().isEmpty())
         return refuse(QStringLiteral("责任签名不能为空，请重新输入！"), m_ui->edtPrincipal);
@@ -169,7 +169,7 @@ bool BillMakingPage::headerIsComplete()
 
 bool BillMakingPage::keysAreRefused()
 {
-    const QString refusal = toolkit::refusalOfTicked(*m_ui->dxTLUp, m_checkColumn);
+    const QString refusal = forms::refusalOfTicked(*m_ui->dxTLUp, m_checkColumn);
     if (!refusal.isEmpty())
         m_workbench.host().FuncStorage.Alert(refusal);
     return !refusal.isEmpty();
@@ -179,7 +179,7 @@ void BillMakingPage::btnSaveClick()
 {
     if (m_ui->dxTLUp->count() == 0)
         return;
-    const std::vector<data::RecordKey> records = toolkit::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
+    const std::vector<data::RecordKey> records = forms::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
     if (records.empty()) {
         m_workbench.host().FuncStorage.Alert(QStringLiteral("没有要制单的记录，请打勾选择！"));
         return;
@@ -206,7 +206,7 @@ void BillMakingPage::btnBackClick()
 {
     if (m_ui->dxTLUp->count() == 0)
         return;
-    const std::vector<data::RecordKey> records = toolkit::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
+    const std::vector<data::RecordKey> records = forms::tickedRecords(*m_ui->dxTLUp, m_checkColumn);
     if (records.empty())
         m_workbench.host().FuncStorage.Alert(QStringLiteral("没有要退单的记录，请打勾选择！"));
     else if (!keysAreRefused())

@@ -3,9 +3,9 @@
 
 #include "toolkit/TdxCurrencyEdit.h"
 #include "toolkit/TdxTreeList.h"
-#include "toolkit/displayformat.h"
 #include "toolkit/guard.h"
 #include "uMain/billtrees.h"
+#include "values/displayformat.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
@@ -75,7 +75,7 @@ QStringList BillNotes::facts(const TdxTreeListNode &bill) const
 QString BillNotes::amountText(const QString &amount) const
 {
     try {
-        return toolkit::formatFloat(m_money.displayFormat(), amount.isEmpty() ? 0 : toolkit::parseAmount(amount));
+        return values::formatFloat(m_money.displayFormat(), amount.isEmpty() ? 0 : values::parseAmount(amount));
     } catch (const std::invalid_argument &) {
         return amount; // as in the lists: sums complain about it
     }

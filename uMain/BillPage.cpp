@@ -2,15 +2,15 @@
 #include "uMain/BillPage.h"
 
 #include "data/captions.h"
+#include "forms/hostformats.h"
+#include "forms/keycheck.h"
+#include "forms/recordcolumns.h"
+#include "forms/rowdrawing.h"
 #include "host/clientdataset.h"
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/guard.h"
-#include "toolkit/hostformats.h"
-#include "toolkit/keycheck.h"
 #include "toolkit/messageboxes.h"
 #include "toolkit/readabletext.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/rowdrawing.h"
 #include "uAddBill/TfrmAddBill.h"
 #include "uDjDetail/TfrmDjDetail.h"
 #include "uMain/BillChanges.h"
@@ -34,7 +34,7 @@ bool lossConfirmed(QWidget *window, const QString &question)
 /// The records that follow a row and go before it, the nearest first.
 std::vector<data::RecordKey> neighbours(const TdxTreeList &grid, const TdxTreeListNode &row)
 {
-    const toolkit::RecordColumns columns(grid);
+    const forms::RecordColumns columns(grid);
     std::vector<data::RecordKey> keys;
     for (const int index : {row.index() + 1, row.index() - 1}) {
         if (const TdxTreeListNode beside = grid.node(index))
@@ -46,7 +46,7 @@ std::vector<data::RecordKey> neighbours(const TdxTreeList &grid, const TdxTreeLi
 /// Focuses the first of the records that is listed.
 void focusFirstOf(TdxTreeList &grid, const std::vector<data::RecordKey> &records)
 {
-    const toolkit::RecordColumns columns(grid);
+    const forms::RecordColumns columns(grid);
     for (const data::RecordKey &record : records) {
         for (int i = 0; i < grid.count(); ++i) {
             if (columns.key(grid.node(i)) == record)
@@ -150,10 +150,10 @@ void BillPage::start()
     loadBillTree();
     m_ui->captionPanel->setCaption(m_ui->captionLabel, data::reimbursementTitle());
     applyBackground(*m_ui->tree);
-    m_ui->tree->setCustomDrawCell(toolkit::organisationTreeDrawing());
+    m_ui->tree->setCustomDrawCell(forms::organisationTreeDrawing());
     applyBackground(*m_ui->grid);
-    m_ui->grid->setCustomDrawCell(toolkit::billListDrawing());
-    m_ui->grid->column(0)->setCustomDrawCell(toolkit::rowNumberDrawing());
+    m_ui->grid->setCustomDrawCell(forms::billListDrawing());
+    m_ui->grid->column(0)->setCustomDrawCell(forms::rowNumberDrawing());
     ApplyMoneyFormat(*m_ui->grid);
 }
 
@@ -246,7 +246,7 @@ void BillPage::cancelRecord()
     if (!isBillNode(bill) || !row)
         return;
     BillChanges(m_workbench, m_scratch, m_kind, this)
-        .takeOut(billKeyOf(bill), toolkit::RecordColumns(*m_ui->grid).key(row), isLastRecord,
+        .takeOut(billKeyOf(bill), forms::RecordColumns(*m_ui->grid).key(row), isLastRecord,
                  [this, beside = neighbours(*m_ui->grid, row)] {
                      changeNode(m_ui->tree->focusedNode());
                      focusFirstOf(*m_ui->grid, beside);
@@ -256,7 +256,7 @@ void BillPage::cancelRecord()
 bool BillPage::keyIsRefused()
 {
     const TdxTreeListNode row = m_ui->grid->focusedNode();
-    const QString refusal = row ? toolkit::refusalOf(*m_ui->grid, row) : QString();
+    const QString refusal = row ? forms::refusalOf(*m_ui->grid, row) : QString();
     if (!refusal.isEmpty())
         m_workbench.host().FuncStorage.Alert(refusal);
     return !refusal.isEmpty();

@@ -3,14 +3,13 @@
 
 #include "data/captions.h"
 #include "data/statements/history.h"
+#include "forms/hostformats.h"
+#include "forms/recordcolumns.h"
+#include "forms/rowdrawing.h"
 #include "host/clientdataset.h"
 #include "host/parameters.h"
 #include "toolkit/TreeListUpdate.h"
-#include "toolkit/displayformat.h"
 #include "toolkit/guard.h"
-#include "toolkit/hostformats.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/rowdrawing.h"
 #include "uDjOld/TfrmDjOld.h"
 #include "uMain/BillNotes.h"
 #include "uMain/billtrees.h"
@@ -18,6 +17,7 @@
 #include "uMain/menus.h"
 #include "uMain/workbench.h"
 #include "ui_HistoryPage.h"
+#include "values/displayformat.h"
 
 #include <QMenu>
 
@@ -61,7 +61,7 @@ void HistoryPage::connectReprint(const char *item, const std::function<void(cons
 {
     const auto *action = findChild<QAction *>(QString::fromUtf8(item));
     toolkit::connectGuarded(action, &QAction::triggered, this, action->text(), [this, &document] {
-        document(*m_ui->dxTLOldBill, toolkit::parseInteger(m_ui->dxTLOldOrg->focusedNode().text(billnode::Type)));
+        document(*m_ui->dxTLOldBill, values::parseInteger(m_ui->dxTLOldOrg->focusedNode().text(billnode::Type)));
     });
 }
 
@@ -114,7 +114,7 @@ void HistoryPage::dxTLOldBillDblClick()
     const TdxTreeListNode bill = m_ui->dxTLOldOrg->focusedNode();
     if (!row || !bill)
         return;
-    showHistoryDetail({toolkit::RecordColumns(*m_ui->dxTLOldBill).key(row), bill.text(billnode::Type),
+    showHistoryDetail({forms::RecordColumns(*m_ui->dxTLOldBill).key(row), bill.text(billnode::Type),
                        bill.text(billnode::CheckStatus)},
                       window());
 }
@@ -124,9 +124,9 @@ void HistoryPage::start()
     LoadOldBills();
     m_ui->Panel31->setCaption(m_ui->LbOld, data::reimbursementTitle());
     applyBackground(*m_ui->dxTLOldOrg);
-    m_ui->dxTLOldOrg->setCustomDrawCell(toolkit::organisationTreeDrawing());
+    m_ui->dxTLOldOrg->setCustomDrawCell(forms::organisationTreeDrawing());
     applyBackground(*m_ui->dxTLOldBill);
-    m_ui->dxTLOldBill->setCustomDrawCell(toolkit::billListDrawing());
-    m_ui->dxTLOldBill->columnByName(QStringLiteral("dxTLOldBillID"))->setCustomDrawCell(toolkit::rowNumberDrawing());
+    m_ui->dxTLOldBill->setCustomDrawCell(forms::billListDrawing());
+    m_ui->dxTLOldBill->columnByName(QStringLiteral("dxTLOldBillID"))->setCustomDrawCell(forms::rowNumberDrawing());
     ApplyMoneyFormat(*m_ui->dxTLOldBill);
 }

@@ -4,12 +4,11 @@
 #include "Common/TCtrlFunc.h"
 #include "Common/executablefolder.h"
 #include "data/statements/startup.h"
+#include "forms/hostformats.h"
 #include "host/clientdataset.h"
 #include "host/parameters.h"
 #include "print/PrintedDocuments.h"
-#include "toolkit/displayformat.h"
 #include "toolkit/guard.h"
-#include "toolkit/hostformats.h"
 #include "uMain/BillMakingPage.h"
 #include "uMain/BillPage.h"
 #include "uMain/HistoryPage.h"
@@ -17,6 +16,7 @@
 #include "uMain/UnbilledPage.h"
 #include "uMain/rights.h"
 #include "uPrint/TfrmPrint.h"
+#include "values/displayformat.h"
 
 #include <QFileInfo>
 #include <QShowEvent>
@@ -136,7 +136,7 @@ void TfrmMain::readConnStyle()
 {
     const QString value = TCtrlFunc().ReadIniStr(SetupFile, SetupSection, SetupKey);
     try {
-        m_workbench.session.connStyle = toolkit::parseInteger(value);
+        m_workbench.session.connStyle = values::parseInteger(value);
     } catch (const std::invalid_argument &) {
         throw std::runtime_error(setupFault(value).toStdString());
     }

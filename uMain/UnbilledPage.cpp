@@ -3,13 +3,13 @@
 
 #include "data/captions.h"
 #include "data/statements/unbilled.h"
+#include "forms/hostformats.h"
+#include "forms/recordcolumns.h"
+#include "forms/rowdrawing.h"
 #include "host/clientdataset.h"
 #include "host/rightsscope.h"
 #include "toolkit/TreeListUpdate.h"
 #include "toolkit/guard.h"
-#include "toolkit/hostformats.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/rowdrawing.h"
 #include "uDjDetail/TfrmDjDetail.h"
 #include "uMain/columns.h"
 #include "uMain/trees.h"
@@ -24,13 +24,13 @@ constexpr toolkit::WindowsColour DischargedToday = toolkit::windowsColour(0xFF, 
 /// Like a bill list, but today's admissions and discharges win over the focus, and a discharge over an admission.
 toolkit::CellDrawing unbilledDrawing(const TdxTreeList &grid)
 {
-    return [rows = toolkit::billListDrawing(), admitted = toolkit::columnPosition(grid, "IfInToday"),
-            discharged = toolkit::columnPosition(grid, "IfOutToday")](
+    return [rows = forms::billListDrawing(), admitted = forms::columnPosition(grid, "IfInToday"),
+            discharged = forms::columnPosition(grid, "IfOutToday")](
                const TdxTreeListNode &node, const TdxTreeListColumn &column, bool focused, toolkit::CellStyle &style) {
         rows(node, column, focused, style);
-        if (toolkit::isTicked(node, admitted))
+        if (forms::isTicked(node, admitted))
             style.background = AdmittedToday;
-        if (toolkit::isTicked(node, discharged))
+        if (forms::isTicked(node, discharged))
             style.background = DischargedToday;
     };
 }
@@ -51,7 +51,7 @@ UnbilledPage::UnbilledPage(Workbench &workbench, QWidget *parent)
     m_ui->dxTLBxDjDetail->setFooterVisible(true);
     m_ui->dxTLBxDjDetail->setCustomDrawCell(unbilledDrawing(*m_ui->dxTLBxDjDetail));
     m_ui->dxTLBxDjDetail->columnByName(QStringLiteral("dxTLBxDjDetailID"))
-        ->setCustomDrawCell(toolkit::rowNumberDrawing());
+        ->setCustomDrawCell(forms::rowNumberDrawing());
     m_ui->splitterDj->setStretchFactor(1, 1);
     setFocusProxy(m_ui->dxTLBxDjDetail); // the first institution's patients are listed already
 
@@ -69,7 +69,7 @@ void UnbilledPage::start()
     loadInstitutionTree();
     m_ui->Panel1->setCaption(m_ui->LbZyDjInfo, data::registrationTitle());
     applyBackground(*m_ui->dxTLDjOrgInfo);
-    m_ui->dxTLDjOrgInfo->setCustomDrawCell(toolkit::organisationTreeDrawing());
+    m_ui->dxTLDjOrgInfo->setCustomDrawCell(forms::organisationTreeDrawing());
     applyBackground(*m_ui->dxTLBxDjDetail);
     ApplyMoneyFormat(*m_ui->dxTLBxDjDetail);
 }
@@ -116,7 +116,7 @@ void UnbilledPage::dxTLDjOrgInfoChangeNode(const TdxTreeListNode &node)
 void UnbilledPage::showFooter()
 {
     TdxTreeList &grid = *m_ui->dxTLBxDjDetail;
-    grid.setFooterText(toolkit::columnPosition(grid, "Coop"), QStringLiteral("共 %1 人次").arg(grid.count()));
+    grid.setFooterText(forms::columnPosition(grid, "Coop"), QStringLiteral("共 %1 人次").arg(grid.count()));
 }
 
 void UnbilledPage::dxTLBxDjDetailDblClick()
@@ -125,7 +125,7 @@ void UnbilledPage::dxTLBxDjDetailDblClick()
     if (!row)
         return;
     const auto value = [&](const char *suffix) {
-        return row.text(toolkit::columnPosition(*m_ui->dxTLBxDjDetail, suffix));
+        return row.text(forms::columnPosition(*m_ui->dxTLBxDjDetail, suffix));
     };
     showFeeDetail({m_selectedOrgCode, value("Coop"), value("IDNo"), value("DiagNo")}, window());
 }

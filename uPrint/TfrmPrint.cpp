@@ -3,6 +3,7 @@
 
 #include "data/statements/feelist.h"
 #include "data/tables.h"
+#include "forms/recordcolumns.h"
 #include "host/clientdataset.h"
 #include "print/templates.h"
 #include "report/TRMDBDataSet.h"
@@ -10,10 +11,9 @@
 #include "toolkit/TdxTreeList.h"
 #include "toolkit/guard.h"
 #include "toolkit/messageboxes.h"
-#include "toolkit/recordcolumns.h"
-#include "toolkit/shortdate.h"
 #include "toolkit/singleinstance.h"
 #include "ui_TfrmPrint.h"
+#include "values/shortdate.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ TfrmPrint::TfrmPrint(FeeListStay stay, QWidget *parent)
     RMDBDataSetDetail->setObjectName(QStringLiteral("RMDBDataSetDetail"));
     RMReport1->setObjectName(QStringLiteral("RMReport1"));
     for (QDateEdit *picker : {m_ui->dtpBegDate, m_ui->dtpEndDate})
-        picker->setDisplayFormat(toolkit::shortDateFormat());
+        picker->setDisplayFormat(values::shortDateFormat());
     m_ui->dtpBegDate->setDate(m_stay.inDate);
     m_ui->dtpEndDate->setDate(m_stay.outDate);
 
@@ -112,9 +112,9 @@ void PrintFeeList(const TdxTreeList &grid, int billType)
     if (!row)
         return;
     const auto date = [&](const char *suffix) {
-        return toolkit::parseShortDate(row.text(toolkit::columnPosition(grid, suffix)));
+        return values::parseShortDate(row.text(forms::columnPosition(grid, suffix)));
     };
     toolkit::showSingleInstance(
-        frmPrint, FeeListStay{toolkit::RecordColumns(grid).key(row), date("InDate"), date("OutDate"), billType},
+        frmPrint, FeeListStay{forms::RecordColumns(grid).key(row), date("InDate"), date("OutDate"), billType},
         grid.window());
 }

@@ -3,7 +3,7 @@
 // Prints ratios; ends with 1 when a bound is missed. Run a release build with QT_QPA_PLATFORM=offscreen.
 #include "bench/support/measuring.h"
 #include "toolkit/TdxTreeList.h"
-#include "toolkit/displayformat.h"
+#include "values/displayformat.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -113,7 +113,7 @@ long double sumTicked(const TdxTreeList &list)
         if (node.utf8(0, tick) != "1")
             continue;
         for (const int column : AmountColumns)
-            sum += toolkit::parseAmount(node.utf8(column + 1, scratch));
+            sum += values::parseAmount(node.utf8(column + 1, scratch));
     }
     return sum;
 }
@@ -123,7 +123,7 @@ long double sumPacket(const automation::DataPacket &packet)
     long double sum = 0;
     for (int row = 0; row < packet.rowCount(); ++row) {
         for (const int column : AmountColumns)
-            sum += toolkit::parseAmount(packet.text(row, column));
+            sum += values::parseAmount(packet.text(row, column));
     }
     return sum;
 }

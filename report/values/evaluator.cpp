@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "report/values/evaluator.h"
 
-#include "report/capitalamount.h"
+#include "values/capitalamount.h"
 
 #include "toolkit/clock.h"
-#include "toolkit/dateformat.h"
-#include "toolkit/displayformat.h"
+#include "values/dateformat.h"
+#include "values/displayformat.h"
 
 #include <QLocale>
 
@@ -35,7 +35,7 @@ std::optional<long double> toNumber(const QString &name, const QVariant &value)
     if (text.isEmpty())
         return std::nullopt;
     try {
-        return toolkit::parseAmount(text);
+        return values::parseAmount(text);
     } catch (const std::invalid_argument &) {
         fail(QStringLiteral("“%1”的值“%2”不是有效的数值").arg(name, text));
     }
@@ -83,7 +83,7 @@ QVariant Evaluator::variable(const QString &name, const Place &place) const
     else if (name.compare(u"Row", Qt::CaseInsensitive) == 0)
         value = place.row + 1;
     else if (name.compare(u"Today", Qt::CaseInsensitive) == 0)
-        value = toolkit::formatDate(toolkit::today());
+        value = values::formatDate(toolkit::today());
     if (m_getValue)
         m_getValue(name, value);
     return value;
@@ -105,7 +105,7 @@ QVariant Evaluator::sum(const QString &field, const Place &place) const
     }
     const std::int64_t total =
         sums[static_cast<std::size_t>(place.endRow)] - sums[static_cast<std::size_t>(place.firstRow)];
-    return toolkit::formatFloat(QStringLiteral("0.######"), static_cast<long double>(total) / Millionths);
+    return values::formatFloat(QStringLiteral("0.######"), static_cast<long double>(total) / Millionths);
 }
 
 QVariant Evaluator::value(const Expression &expression, const Place &place) const
@@ -137,9 +137,9 @@ Evaluator::Value Evaluator::format(const Expression &expression, const QVariant 
     if (expression.inCapitals) {
         if (!hasCapitals(*number))
             return {QStringLiteral("####"), std::nullopt};
-        return {capitalAmount(*number), std::nullopt};
+        return {values::capitalAmount(*number), std::nullopt};
     }
-    return {toolkit::formatFloat(expression.format, *number), static_cast<double>(*number)};
+    return {values::formatFloat(expression.format, *number), static_cast<double>(*number)};
 }
 
 Evaluator::Value Evaluator::evaluate(const TextPattern &pattern, const Place &place) const

@@ -5,7 +5,7 @@
 #include "tests/support/desk.h"
 #include "tests/support/hands.h"
 #include "tests/support/modalvisit.h"
-#include "toolkit/displayformat.h"
+#include "values/displayformat.h"
 #include "vortaq/demo/demodata.h"
 
 #include <gtest/gtest.h>
@@ -68,7 +68,7 @@ protected:
     }
     static QString amount(const QString &number)
     {
-        return toolkit::formatFloat(QStringLiteral(",0.00"), toolkit::parseAmount(number));
+        return values::formatFloat(QStringLiteral(",0.00"), values::parseAmount(number));
     }
 
     struct Folder {

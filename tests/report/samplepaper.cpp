@@ -3,7 +3,7 @@
 
 #include "automation/datapacket.h"
 #include "host/clientdataset.h"
-#include "toolkit/displayformat.h"
+#include "values/displayformat.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -72,7 +72,7 @@ void answerFees(const QString &name, QVariant &value)
     static const double Reimbursable[] = {2012.05, 241.2, 0.01, 216, 144, 702, 445.05, 500, 1151.74, 0};
     if (!name.startsWith(u'F'))
         return;
-    const int index = toolkit::parseInteger(name.right(2)) - 1;
+    const int index = values::parseInteger(name.right(2)) - 1;
     const QString kind = name.chopped(2);
     if (kind.compare(u"FTYPE", Qt::CaseInsensitive) == 0)
         value = QString::fromUtf8(Types[index]);

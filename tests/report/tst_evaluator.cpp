@@ -5,7 +5,7 @@
 #include "host/clientdataset.h"
 #include "tests/report/samplepaper.h"
 #include "toolkit/clock.h"
-#include "toolkit/displayformat.h"
+#include "values/displayformat.h"
 
 #include <QDate>
 
@@ -138,7 +138,7 @@ TEST_F(Values, ErrorsNameTheFieldAndItsValue)
 
 TEST_F(Values, WhatTheCallbackThrowsPasses)
 {
-    m_answer = [](const QString &name, QVariant &) { (void)toolkit::parseInteger(name.right(2)); };
+    m_answer = [](const QString &name, QVariant &) { (void)values::parseInteger(name.right(2)); };
     EXPECT_THROW((void)text("[FTYPExx]"), std::invalid_argument);
 }
 

@@ -4,7 +4,7 @@
 
 #include "toolkit/TdxTreeListColumn.h"
 #include "toolkit/datatip.h"
-#include "toolkit/displayformat.h"
+#include "values/displayformat.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -112,7 +112,7 @@ private:
 
 AmountEditor::AmountEditor(const TdxTreeListCurrencyColumn &column, QWidget *parent)
     : QLineEdit(parent)
-    , m_thousands(showsThousands(column.displayFormat()))
+    , m_thousands(values::showsThousands(column.displayFormat()))
     , m_validator(new Validator(m_thousands, this))
 {
     setValidator(m_validator);

@@ -3,8 +3,8 @@
 #include "toolkit/treelist/amountwidth.h"
 
 #include "toolkit/TdxTreeListColumn.h"
-#include "toolkit/displayformat.h"
 #include "toolkit/treelist/nodestore.h"
+#include "values/displayformat.h"
 
 #include <QFontMetrics>
 
@@ -69,7 +69,7 @@ void add(std::string_view text, Widest &widest)
     const bool isLonger = text.size() > widest.longest.size();
     if (!addPlain(text, widest)) {
         try {
-            const long double value = parseAmount(text); // with an exponent
+            const long double value = values::parseAmount(text); // with an exponent
             widest.add(value < 0, value == 0 ? 0 : std::max(0, static_cast<int>(std::log10(std::fabs(value))) + 2));
         } catch (const std::invalid_argument &) {
             return;
@@ -119,13 +119,13 @@ int amountWidth(const NodeStore &store, const std::vector<int> &nodes, const Tdx
             return;
         // No digit behind the point is 0, which a format may leave out, and none makes it round up.
         const std::string amount(static_cast<std::size_t>(std::min(digits, MostDigits)), '4');
-        const long double value = parseAmount(amount + ".444444");
-        width = std::max(width, widthOf(formatFloat(format, isNegative ? -value : value), metrics, digit));
+        const long double value = values::parseAmount(amount + ".444444");
+        width = std::max(width, widthOf(values::formatFloat(format, isNegative ? -value : value), metrics, digit));
     };
     measure(false, widest.positive);
     measure(true, widest.negative);
     if (widest.positive >= 0)
-        width = std::max(width, widthOf(formatFloat(format, 0), metrics, digit));
+        width = std::max(width, widthOf(values::formatFloat(format, 0), metrics, digit));
     return width;
 }
 

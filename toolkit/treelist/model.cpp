@@ -3,8 +3,8 @@
 #include "toolkit/treelist/model.h"
 
 #include "toolkit/TdxTreeListColumn.h"
-#include "toolkit/displayformat.h"
 #include "toolkit/treelist/amounteditor.h"
+#include "values/displayformat.h"
 
 #include <stdexcept>
 #include <string_view>
@@ -61,7 +61,7 @@ QString Model::shownText(int node, const TdxTreeListColumn &column) const
     if (text.isEmpty() || currency->displayFormat().isEmpty())
         return text;
     try {
-        return formatFloat(currency->displayFormat(), parseAmount(text));
+        return values::formatFloat(currency->displayFormat(), values::parseAmount(text));
     } catch (const std::invalid_argument &) {
         return text; // a list must be readable whatever stands in it; sums complain about the text
     }
@@ -183,7 +183,7 @@ bool Model::setData(const QModelIndex &index, const QVariant &value, int role)
         return false;
     QString text = value.toString();
     if (const auto *amounts = qobject_cast<const TdxTreeListCurrencyColumn *>(columnOf(index))) {
-        const std::optional<QString> amount = typedAmount(text, showsThousands(amounts->displayFormat()));
+        const std::optional<QString> amount = typedAmount(text, values::showsThousands(amounts->displayFormat()));
         if (!amount)
             return false; // sums over the column would fail
         text = *amount;

@@ -2,8 +2,8 @@
 // Sorting by rank: each distinct text is compared once, however many rows show it.
 #include "toolkit/treelist/sorter.h"
 
-#include "toolkit/displayformat.h"
 #include "toolkit/treelist/nodestore.h"
+#include "values/displayformat.h"
 
 #include <QCollator>
 
@@ -61,7 +61,7 @@ std::optional<long double> numberOf(std::string_view text)
     if (digits == 0 || digits > exactDigits)
         return std::nullopt;
     try {
-        return parseAmount(text);
+        return values::parseAmount(text);
     } catch (const std::invalid_argument &) {
         return std::nullopt;
     }

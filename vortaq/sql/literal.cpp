@@ -2,9 +2,9 @@
 // The conversions of T-SQL on texts.
 #include "vortaq/sql/literal.h"
 
+#include "values/decimaltext.h"
 #include "vortaq/sql/character.h"
 #include "vortaq/sql/datetext.h"
-#include "vortaq/sql/decimaltext.h"
 #include "vortaq/sql/diagnostic.h"
 
 #include <algorithm>
@@ -50,22 +50,22 @@ ConvertedText toInt(const std::string &text, const Type &from)
 {
     if (from.kind == Kind::Varchar && withoutTrailingBlanks(text).empty())
         return {"0", Misfit::None};
-    auto number = parseDecimal(text);
+    auto number = values::parseDecimal(text);
     if (!number || (from.kind == Kind::Varchar && text.find('.') != std::string::npos))
         return {{}, Misfit::NotConvertible};
     number->fraction.clear(); // a decimal loses its decimals without rounding
     number->negative = number->negative && !number->whole.empty();
-    if (!fitsInt(*number))
+    if (!values::fitsInt(*number))
         return {{}, Misfit::OutOfRange};
     return {number->text(), Misfit::None};
 }
 
 ConvertedText toDecimal(const std::string &text, const Type &to)
 {
-    const auto number = parseDecimal(text);
+    const auto number = values::parseDecimal(text);
     if (!number)
         return {{}, Misfit::NotConvertible};
-    const DecimalText rounded = number->rounded(to.scale);
+    const values::DecimalText rounded = number->rounded(to.scale);
     if (rounded.whole.size() > static_cast<std::size_t>(to.size - to.scale))
         return {{}, Misfit::OutOfRange};
     return {rounded.text(), Misfit::None};
@@ -73,7 +73,7 @@ ConvertedText toDecimal(const std::string &text, const Type &to)
 
 ConvertedText toFloat(const std::string &text)
 {
-    const auto number = parseDecimal(text);
+    const auto number = values::parseDecimal(text);
     return number ? ConvertedText{number->text(), Misfit::None} : ConvertedText{{}, Misfit::NotConvertible};
 }
 
@@ -121,10 +121,10 @@ std::string misfitMessage(Misfit misfit, const std::string &text, const Type &to
 
 Type typeOfNumber(std::string_view digits)
 {
-    const auto number = parseDecimal(digits);
+    const auto number = values::parseDecimal(digits);
     if (!number)
         return {};
-    if (digits.find('.') == std::string_view::npos && fitsInt(*number))
+    if (digits.find('.') == std::string_view::npos && values::fitsInt(*number))
         return intType();
     const std::size_t all = std::max<std::size_t>(number->whole.size() + number->fraction.size(), 1);
     if (all > mostDigits)

@@ -16,7 +16,7 @@ namespace {
 
 /// Lies in memory that SQLite zeroes and frees, and aligns for eight bytes only; so the units are kept as bytes.
 struct Sum {
-    std::array<std::byte, sizeof(Units)> units;
+    std::array<std::byte, sizeof(values::Units)> units;
     int scale;
     bool any;
 };
@@ -42,10 +42,10 @@ void sumStep(sqlite3_context *context, int count, sqlite3_value **arguments)
     guardedCall(context, behind(own, count, arguments), [&] {
         auto &sum = stateOf<Sum>(context);
         sum.scale = sqlite3_value_int(arguments[1]);
-        const Units units = std::bit_cast<Units>(sum.units) + unitsOfValue(arguments[0], sum.scale);
-        if (!fitsDigits(units, mostDecimals - 1))
+        const values::Units units = std::bit_cast<values::Units>(sum.units) + unitsOfValue(arguments[0], sum.scale);
+        if (!values::fitsDigits(units, values::mostDecimals - 1))
             overflow();
-        sum.units = std::bit_cast<std::array<std::byte, sizeof(Units)>>(units);
+        sum.units = std::bit_cast<std::array<std::byte, sizeof(values::Units)>>(units);
         sum.any = true;
     });
 }
@@ -56,8 +56,8 @@ void sumFinal(sqlite3_context *context)
     if (sum == nullptr || !sum->any)
         return;
     guardedCall(context, {}, [&] {
-        const auto units = std::bit_cast<Units>(sum->units);
-        const auto number = exactNumber(units, sum->scale);
+        const auto units = std::bit_cast<values::Units>(sum->units);
+        const auto number = values::exactNumber(units, sum->scale);
         if (!number)
             overflow();
         if (sum->scale == 0)

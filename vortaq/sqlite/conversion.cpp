@@ -2,8 +2,8 @@
 // A stored value to text, the text by the rules of T-SQL, and back to a stored value.
 #include "vortaq/sqlite/conversion.h"
 
+#include "values/decimal.h"
 #include "vortaq/sql/literal.h"
-#include "vortaq/sqlite/decimal.h"
 #include "vortaq/sqlite/functioncall.h"
 
 #include <algorithm>
@@ -66,7 +66,7 @@ std::string writtenValue(sqlite3_value *value, const Rule &rule)
     if (rule.from.kind == Kind::Float)
         return floatText(sqlite3_value_double(value), rule.to.kind);
     if (rule.from.kind == Kind::Decimal)
-        return std::string(UnitsText(unitsOfValue(value, rule.from.scale), rule.from.scale).text());
+        return std::string(values::UnitsText(unitsOfValue(value, rule.from.scale), rule.from.scale).text());
     return std::string(textOf(value));
 }
 
@@ -84,13 +84,13 @@ template <typename Number> Number numberIn(const std::string &text)
 
 void returnDecimal(sqlite3_context *context, const std::string &text, const sql::Type &to)
 {
-    const auto units = parseUnits(text, to.scale);
+    const auto units = values::parseUnits(text, to.scale);
     if (units && to.scale == 0 && *units <= std::numeric_limits<std::int64_t>::max()
         && *units >= std::numeric_limits<std::int64_t>::min()) {
         sqlite3_result_int64(context, static_cast<std::int64_t>(*units));
         return;
     }
-    const auto number = units ? exactNumber(*units, to.scale) : std::nullopt;
+    const auto number = units ? values::exactNumber(*units, to.scale) : std::nullopt;
     if (!number)
         refuse(sql::Misfit::OutOfRange, text, to);
     sqlite3_result_double(context, *number);

@@ -2,8 +2,8 @@
 // What every SQL function written in C++ needs: arguments, and a wall that no exception crosses.
 #pragma once
 
+#include "values/decimal.h"
 #include "vortaq/sqlite/FunctionFailure.h"
-#include "vortaq/sqlite/decimal.h"
 
 #include <sqlite3.h>
 
@@ -28,7 +28,7 @@ inline bool isNull(sqlite3_value *value)
 }
 
 /// The amount in units of that scale, whatever the column really holds. Throws SqlError(Conversion).
-[[nodiscard]] Units unitsOfValue(sqlite3_value *value, int scale);
+[[nodiscard]] values::Units unitsOfValue(sqlite3_value *value, int scale);
 
 inline void returnText(sqlite3_context *context, std::string_view text)
 {

@@ -39,10 +39,10 @@ void callStr(sqlite3_context *context, Arguments arguments)
     const auto width = static_cast<std::size_t>(sqlite3_value_int(arguments[1]));
     const int decimals = sqlite3_value_int(arguments[2]);
     const int from = sqlite3_value_int(arguments[3]);
-    const auto units = rescaled(unitsOfValue(arguments[0], from), from, decimals);
+    const auto units = values::rescaled(unitsOfValue(arguments[0], from), from, decimals);
     if (!units)
         overflow(arguments[0]);
-    const UnitsText number(*units, decimals);
+    const values::UnitsText number(*units, decimals);
     const std::string_view text = number.text();
     std::array<char, usualWidth> usual;
     std::string wide(width > usualWidth ? width : 0, ' ');
@@ -83,12 +83,13 @@ constexpr std::array<Function, 4> scalarFunctions = {{{"ts_convert", anyNumber, 
 
 } // namespace
 
-Units unitsOfValue(sqlite3_value *value, int scale)
+values::Units unitsOfValue(sqlite3_value *value, int scale)
 {
     const int type = sqlite3_value_type(value);
-    const auto units = type == SQLITE_INTEGER ? unitsOf(static_cast<long long>(sqlite3_value_int64(value)), scale)
-        : type == SQLITE_FLOAT                ? unitsOf(sqlite3_value_double(value), scale)
-                                              : parseUnits(textOf(value), scale);
+    const auto units = type == SQLITE_INTEGER
+        ? values::unitsOf(static_cast<long long>(sqlite3_value_int64(value)), scale)
+        : type == SQLITE_FLOAT ? values::unitsOf(sqlite3_value_double(value), scale)
+                               : values::parseUnits(textOf(value), scale);
     if (!units)
         throw SqlError(SqlError::Reason::Conversion, "“" + std::string(textOf(value)) + "”不是可用的数值。");
     return *units;

@@ -22,7 +22,8 @@ void appendCell(automation::DataPacketBuilder &packet, const PreparedStatement &
     if (sqlite3_column_type(row, column) == SQLITE_NULL)
         packet.appendNull();
     else if (type.kind == Kind::Decimal)
-        packet.append(UnitsText(unitsOfValue(sqlite3_column_value(row, column), type.scale), type.scale).text());
+        packet.append(
+            values::UnitsText(unitsOfValue(sqlite3_column_value(row, column), type.scale), type.scale).text());
     else if (type.kind == Kind::Float)
         engines::appendFloat(packet, sqlite3_column_double(row, column));
     else

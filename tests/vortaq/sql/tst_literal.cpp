@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Written values converted as T-SQL converts them.
+#include "values/decimaltext.h"
 #include "vortaq/sql/datetext.h"
-#include "vortaq/sql/decimaltext.h"
 #include "vortaq/sql/literal.h"
 
 #include <gtest/gtest.h>
