@@ -169,7 +169,7 @@ bool Layout::place(MeasuredBand &band)
         failTooHigh(band);
     put(std::move(upper));
     m_bodyStarted = true;
-    return false;
+    return band.texts.empty() && band.lines.empty(); // blank room at the end of a band needs no page
 }
 
 Unit Layout::endPage(Unit footerHeight)
@@ -182,6 +182,8 @@ Unit Layout::endPage(Unit footerHeight)
     place.endRow = m_at.row;
     MeasuredBand footer = measured(*m_template->pageFooter, place);
     const Unit needed = footer.height;
+    if (needed > m_template->pageHeight - m_template->marginTop - m_template->marginBottom)
+        failTooHigh(footer);
     if (needed <= footerHeight)
         m_builder.add(std::move(footer), m_template->marginLeft, m_end);
     return needed;

@@ -3,13 +3,15 @@
 
 #include "report/document.h"
 
+#include <string>
+
 namespace report {
 
 namespace {
 
 /// File systems take 255 bytes; a suffix and a number still have to find room.
 constexpr qsizetype MostBytes = 200;
-constexpr qsizetype Tail = 16;
+constexpr std::size_t Tail = 16;
 
 bool isAllowed(char32_t code)
 {
@@ -18,35 +20,28 @@ bool isAllowed(char32_t code)
 }
 
 /// Long texts lose their middle: a date stands at the end as a rule.
-QString shortened(const QList<uint> &codes)
+QString shortened(const std::u32string &codes)
 {
-    const auto text = [](const QList<uint> &from) {
-        return QString::fromUcs4(reinterpret_cast<const char32_t *>(from.constData()), from.size());
-    };
-    if (text(codes).toUtf8().size() <= MostBytes)
-        return text(codes);
-    QList<uint> head = codes.first(codes.size() - Tail);
-    const QString tail = u'…' + text(codes.last(Tail));
-    while ((text(head) + tail).toUtf8().size() > MostBytes)
-        head.removeLast();
-    return text(head) + tail;
+    const QString whole = QString::fromStdU32String(codes);
+    if (whole.toUtf8().size() <= MostBytes)
+        return whole;
+    std::u32string head = codes.substr(0, codes.size() - Tail);
+    const QString tail = u'…' + QString::fromStdU32String(codes.substr(codes.size() - Tail));
+    while ((QString::fromStdU32String(head) + tail).toUtf8().size() > MostBytes)
+        head.pop_back();
+    return QString::fromStdU32String(head) + tail;
 }
 
 } // namespace
 
 QString safeFileName(const QString &text)
 {
-    QList<uint> codes;
-    for (const uint code : text.simplified().toUcs4()) {
-        if (isAllowed(code))
-            codes.append(code);
-    }
-    const auto isEdge = [](uint code) { return code == U'.' || code == U' '; };
-    while (!codes.isEmpty() && isEdge(codes.first()))
-        codes.removeFirst();
-    while (!codes.isEmpty() && isEdge(codes.last()))
-        codes.removeLast();
-    return codes.isEmpty() ? QStringLiteral("报表") : shortened(codes);
+    std::u32string codes = text.simplified().toStdU32String();
+    std::erase_if(codes, [](char32_t code) { return !isAllowed(code); });
+    constexpr char32_t edges[] = U". ";
+    codes.erase(codes.find_last_not_of(edges) + 1);
+    codes.erase(0, codes.find_first_not_of(edges));
+    return codes.empty() ? QStringLiteral("报表") : shortened(codes);
 }
 
 QString fileName(const Template &source)

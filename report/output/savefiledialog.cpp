@@ -5,14 +5,18 @@
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QIdentityProxyModel>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTreeView>
 
 namespace report {
 
 namespace {
 
+constexpr int SizeColumn = 1;
+constexpr int DateColumn = 3;
 const QString FolderKey = QStringLiteral("report/folder");
 
 class ChineseKinds final : public QFileIconProvider {
@@ -42,19 +46,28 @@ public:
 
     QVariant data(const QModelIndex &index, int role) const override
     {
-        constexpr int sizeColumn = 1;
-        constexpr int dateColumn = 3;
         const auto *files = qobject_cast<const QFileSystemModel *>(sourceModel());
         if (files == nullptr || role != Qt::DisplayRole)
             return QIdentityProxyModel::data(index, role);
         const QModelIndex source = mapToSource(index);
-        if (index.column() == sizeColumn && !files->isDir(source))
+        if (index.column() == SizeColumn && !files->isDir(source))
             return sizeText(files->size(source));
-        if (index.column() == dateColumn)
+        if (index.column() == DateColumn)
             return files->lastModified(source).toString(QStringLiteral("yyyy-MM-dd HH:mm"));
         return QIdentityProxyModel::data(index, role);
     }
 };
+
+/// Sizes in words take more room than the "2 KiB" that the dialog reckons with.
+void makeRoomForSizes(QFileDialog &dialog)
+{
+    auto *list = dialog.findChild<QTreeView *>(QStringLiteral("treeView"));
+    if (list == nullptr)
+        return;
+    const int wanted = list->fontMetrics().horizontalAdvance(sizeText(1024 * 1023)) * 5 / 4;
+    list->header()->resizeSection(SizeColumn, wanted);
+    dialog.resize(dialog.sizeHint() + QSize(wanted, 0));
+}
 
 QString firstFolder()
 {
@@ -83,6 +96,7 @@ QString askForSaveFile(QWidget *parent, const QString &caption, const QString &n
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setProxyModel(new ChineseListing(&dialog));
     dialog.setIconProvider(&kinds);
+    makeRoomForSizes(dialog);
     dialog.setDefaultSuffix(suffix);
     dialog.selectFile(name + u'.' + suffix);
     if (dialog.exec() != QDialog::Accepted)

@@ -250,6 +250,15 @@ TEST(Layout, AFormStaysOnOnePageWhileSmallerTypeCanKeepItThere)
     EXPECT_GE(document.page(0).texts.at(4).font.size, 75);
 }
 
+TEST(Layout, BlankRoomBelowATitleMakesNoPage)
+{
+    const QByteArray title = "<title height='100'><text x='0' y='0' w='50' h='8' overflow='grow'>[Name]</text></title>";
+    Document document = makeDocument(title + Foot, {{repeated("一二三四五六七八九十", 50), "", ""}});
+    ASSERT_TRUE(document.finish());
+    ASSERT_EQ(document.pageCount(), 1);
+    EXPECT_EQ(document.page(0).texts.at(0).lines.size(), 36U);
+}
+
 TEST(Layout, HeadingsAreNotLeftAloneBelowATitle)
 {
     const QByteArray title = "<title height='150'><text x='0' y='0' w='50' h='8'>题</text></title>";
@@ -267,6 +276,13 @@ TEST(Layout, AFooterOfThePageGrowsAndTakesItsRoomFromTheRows)
     EXPECT_EQ(pagedump::texts(document),
               "10 一二三四五六七八九十, 50 短, 90 短, 130 短, 185.03 一二三四五六七八/九十一二三四五六/七八九十\n"
               "10 短, 190 短短\n");
+}
+
+TEST(Layout, AFooterTallerThanThePageIsReportedEvenWhereNothingElseStands)
+{
+    Document document = makeDocument("<pageFooter><text x='0' y='0' w='30' h='8'>[Name]</text></pageFooter>",
+                                     {{repeated("一二三四五", 200), "", ""}});
+    EXPECT_THROW((void)document.finish(), TemplateError);
 }
 
 TEST(Layout, WhatStandsOnEveryPageIsReportedWhenItLeavesNoRoom)

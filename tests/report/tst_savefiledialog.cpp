@@ -26,6 +26,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTranslator>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -175,6 +176,8 @@ TEST_F(SaveDialog, SpeaksChineseEverywhere)
             row.append(cell(1, column));
         EXPECT_EQ(row.join(u'|').toStdString(), "旧.pdf|2.9 千字节|文件|2026-03-09 08:05");
         EXPECT_EQ(cell(0, 2), text("文件夹"));
+        const int width = hands::find<QTreeView>(dialog, "treeView").columnWidth(1);
+        EXPECT_GT(width, list.fontMetrics().horizontalAdvance(text("1023.0 千字节"))) << "sizes are not cut";
         EXPECT_EQ(cell(0, 1), QString());
     });
 }

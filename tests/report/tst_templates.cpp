@@ -196,7 +196,7 @@ TEST_F(Papers, DailyListGroupsByDay)
     EXPECT_EQ(all.at(all.indexOf(QStringLiteral("2026-01-01 小计（24 项）")) + 1), QStringLiteral("6,785.26"));
     EXPECT_TRUE(all.contains(QStringLiteral("打印人：李会计　　打印日期：2026-11-21")));
     // Every item says whether it is reimbursed.
-    EXPECT_EQ(all.at(all.indexOf(QStringLiteral("报销")) - 1), QStringLiteral("金额（元）"));
+    EXPECT_EQ(all.value(all.indexOf(QStringLiteral("金额（元）")) + 1), QStringLiteral("报销"));
     EXPECT_EQ(all.count(QStringLiteral("是")), 25);
     EXPECT_EQ(all.count(QStringLiteral("否")), 5);
 }
