@@ -195,7 +195,9 @@ TEST(TellBox, scrollsATextWithoutLines)
     for (const QString &text : {u"失败"_s.repeated(3000), u"x"_s.repeated(3900)}) {
         const WhenBoxOpens opened([&text](QMessageBox &box) {
             EXPECT_EQ(box.text(), text);
-            EXPECT_EQ(box.findChild<QTextEdit *>(u"boxList"_s)->toPlainText(), text);
+            const auto *field = box.findChild<QTextEdit *>(u"boxList"_s);
+            ASSERT_TRUE(field);
+            EXPECT_EQ(field->toPlainText(), text);
             EXPECT_TRUE(box.screen()->availableGeometry().contains(box.frameGeometry()));
             EXPECT_TRUE(isSeenWhole(box.findChild<QPushButton *>(u"btnOk"_s)));
             QTest::keyClick(&box, Qt::Key_Return);

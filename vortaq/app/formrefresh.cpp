@@ -16,7 +16,7 @@ bool mayDiscardInput(const QWidget &form)
     if (!form.property("unsavedInput").toBool())
         return true;
     QMessageBox box(QMessageBox::Question, programTitle(),
-                    QStringLiteral("已打勾选择的内容还没有保存，刷新后需要重新选择。\n是否继续？"),
+                    QStringLiteral("当前功能里有还没有保存的内容（例如打勾选择的记录），刷新后将会丢失。\n是否继续？"),
                     QMessageBox::NoButton, form.window());
     box.setObjectName(QStringLiteral("refreshQuestion"));
     QPushButton *yes = box.addButton(QStringLiteral("是(&Y)"), QMessageBox::YesRole);

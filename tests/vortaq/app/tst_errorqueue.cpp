@@ -78,7 +78,9 @@ TEST(ErrorQueue, ALongMessageLeavesTheButtonOnTheScreen)
         ASSERT_EQ(boxes().size(), 1U);
         const QMessageBox &box = *boxes().front();
         EXPECT_EQ(box.text(), expected);
-        EXPECT_EQ(box.findChild<QTextEdit *>()->toPlainText(), expected);
+        const auto *field = box.findChild<QTextEdit *>();
+        ASSERT_TRUE(field);
+        EXPECT_EQ(field->toPlainText(), expected);
         EXPECT_TRUE(box.screen()->availableGeometry().contains(box.frameGeometry()));
         EXPECT_TRUE(box.rect().contains(box.buttons().constFirst()->geometry()));
     }

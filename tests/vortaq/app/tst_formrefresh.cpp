@@ -13,7 +13,11 @@ namespace vortaq::test {
 
 class FormRefreshTest : public MainWindowFixture {
 protected:
-    FormRefreshTest() { trigger("openFunctionAction"); }
+    FormRefreshTest()
+        : MainWindowFixture(QStringLiteral(TEST_PLAIN_MODULE))
+    {
+        trigger("openFunctionAction");
+    }
 
     [[nodiscard]] QWidget &form() const { return *m_module.form(); }
     [[nodiscard]] int showings() const { return form().property("shown").toInt(); }
@@ -69,7 +73,7 @@ TEST_F(FormRefreshTest, TheQuestionSaysWhatIsLost)
     form().setProperty("unsavedInput", true);
     pressF5And([](QWidget &question) {
         EXPECT_EQ(qobject_cast<QMessageBox *>(&question)->text(),
-                  QStringLiteral("已打勾选择的内容还没有保存，刷新后需要重新选择。\n是否继续？"));
+                  QStringLiteral("当前功能里有还没有保存的内容（例如打勾选择的记录），刷新后将会丢失。\n是否继续？"));
         EXPECT_EQ(question.windowTitle(), QStringLiteral("农合医院业务平台"));
     });
 }

@@ -15,7 +15,10 @@ namespace vortaq::test {
 
 class MainWindowTest : public MainWindowFixture {
 protected:
-    using MainWindowFixture::MainWindowFixture;
+    explicit MainWindowTest(const QString &module = QStringLiteral(TEST_PLAIN_MODULE))
+        : MainWindowFixture(module)
+    {
+    }
 
     bool isEnabled(const char *action)
     {

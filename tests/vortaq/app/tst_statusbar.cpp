@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Tests of the status bar: what a component of the form says of itself, beside who works where.
+#include "tests/support/hands.h"
 #include "tests/vortaq/app/support/mainwindowfixture.h"
 
 #include <QLabel>
@@ -19,6 +20,7 @@ const QString Tip = QStringLiteral("制单号：42990101-12　记录：3 笔　�
 class StatusBarTest : public MainWindowFixture {
 protected:
     StatusBarTest()
+        : MainWindowFixture(QStringLiteral(TEST_PLAIN_MODULE))
     {
         trigger("openFunctionAction");
         m_component = new QWidget(m_module.form());
@@ -30,10 +32,7 @@ protected:
         QApplication::sendEvent(m_component, &event);
         QApplication::processEvents();
     }
-    [[nodiscard]] QLabel &label(const char *name) const
-    {
-        return *m_window.findChild<QLabel *>(QString::fromLatin1(name));
-    }
+    [[nodiscard]] QLabel &label(const char *name) const { return hands::find<QLabel>(m_window, name); }
     [[nodiscard]] bool isShown(const char *name) const
     {
         return label(name).isVisible() && label(name).visibleRegion().boundingRect() == label(name).rect();

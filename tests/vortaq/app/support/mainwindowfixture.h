@@ -17,7 +17,7 @@ namespace vortaq::test {
 
 class MainWindowFixture : public testing::Test {
 protected:
-    explicit MainWindowFixture(const QString &module = QStringLiteral(TEST_PLAIN_MODULE))
+    explicit MainWindowFixture(const QString &module)
         : m_module(module)
         , m_window(m_host.session, m_module, QStringLiteral("demo.db"), MainWindow::Geometry::Fresh)
     {
