@@ -11,7 +11,8 @@ target_compile_options(
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # g++ 12, when it optimises, takes "text" + std::string for an overlapping copy, and out of a precompiled header for one
   # beyond the text.
-  target_compile_options(tarnwell_options INTERFACE -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow)
+  target_compile_options(tarnwell_options INTERFACE -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow
+                                                    -Wno-stringop-overread)
 endif()
 if(TARNWELL_SANITIZE)
   target_compile_options(tarnwell_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
