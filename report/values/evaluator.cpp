@@ -135,7 +135,7 @@ Evaluator::Value Evaluator::format(const Expression &expression, const QVariant 
     if (!number)
         return {};
     if (expression.inCapitals) {
-        if (!hasCapitals(*number))
+        if (!values::hasCapitals(*number))
             return {QStringLiteral("####"), std::nullopt};
         return {values::capitalAmount(*number), std::nullopt};
     }

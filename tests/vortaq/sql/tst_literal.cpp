@@ -147,11 +147,11 @@ TEST(Unquoted, DoubledQuotesBecomeOne)
 
 TEST(DecimalText, BlanksAroundOnly)
 {
-    EXPECT_FALSE(parseDecimal("1 2").has_value());
-    EXPECT_FALSE(parseDecimal(".").has_value());
-    EXPECT_FALSE(parseDecimal("\t1").has_value());
-    EXPECT_EQ(parseDecimal("  00.10 ")->text(), "0.10");
-    EXPECT_EQ(parseDecimal("-.5")->text(), "-0.5");
+    EXPECT_FALSE(values::parseDecimal("1 2").has_value());
+    EXPECT_FALSE(values::parseDecimal(".").has_value());
+    EXPECT_FALSE(values::parseDecimal("\t1").has_value());
+    EXPECT_EQ(values::parseDecimal("  00.10 ")->text(), "0.10");
+    EXPECT_EQ(values::parseDecimal("-.5")->text(), "-0.5");
 }
 
 } // namespace
