@@ -63,6 +63,29 @@ TEST_F(Amounts, whatItsFormatMakesOfThemHasRoom)
     }
 }
 
+TEST_F(Amounts, oneOfManyMayBeWiderForItsSignOrItsDecimals)
+{
+    const struct {
+        const char *format;
+        const char *first;
+        const char *second;
+        const char *shown;
+    } rows[] = {
+        {"", "         123456", "      123456.78", "123456.78"},
+        {",0.00;-,0.00 (退回的费用)", "     1234567.00", "     -234567.00", "-234,567.00 (退回的费用)"},
+        {"0.0", "         100.00", "         999.99", "1000.0"},
+        {"0.00", "         100.00", "         999.99", "999.99"},
+    };
+    for (const auto &row : rows) {
+        list.setColumns(patientColumns());
+        setFormat(row.format);
+        loadAmounts({"1"});
+        loadAmounts({row.first, row.second});
+        EXPECT_EQ(list.model()->data(at(1, Fee), Qt::AccessibleTextRole).toString().toStdString(), row.shown);
+        EXPECT_TRUE(hasRoomFor(row.shown)) << row.shown;
+    }
+}
+
 TEST_F(Amounts, textsThatAreNoneWidenNothing)
 {
     loadAmounts({"1"});

@@ -58,8 +58,22 @@ bool addPlain(std::string_view text, Widest &widest)
     return true;
 }
 
+/// Most texts are blanks before an amount of two decimals, and another had as many digits: that shows at a glance.
+bool isNoWider(std::string_view text, const Widest &widest)
+{
+    const std::size_t point = text.size() - 3; // beyond the end for a shorter text
+    const auto digits = static_cast<std::size_t>(widest.positive);
+    const bool isUsual = point < text.size() && text[point] == '.';
+    if (!isUsual || widest.positive < 0 || point <= digits || widest.longest.size() < digits + 3)
+        return false;
+    const std::string_view rest = text.substr(point - digits);
+    return text[point - digits - 1] == ' ' && rest.front() != '9' && rest.find('-') == std::string_view::npos;
+}
+
 void add(std::string_view text, Widest &widest)
 {
+    if (isNoWider(text, widest))
+        return;
     while (!text.empty() && text.front() == ' ')
         text.remove_prefix(1);
     while (!text.empty() && text.back() == ' ')
@@ -99,18 +113,8 @@ int widthOf(QString amount, const QFontMetrics &metrics, QChar digit)
     return metrics.horizontalAdvance(amount);
 }
 
-} // namespace
-
-int amountWidth(const NodeStore &store, const std::vector<int> &nodes, const TdxTreeListCurrencyColumn &column,
-                const QFontMetrics &metrics)
+int widthOf(const Widest &widest, const QString &format, const QFontMetrics &metrics, QChar digit)
 {
-    Widest widest;
-    std::string scratch;
-    for (const int node : nodes)
-        add(store.utf8(node, column.position(), scratch), widest);
-
-    const QChar digit = widestDigit(metrics);
-    const QString &format = column.displayFormat();
     if (format.isEmpty())
         return widthOf(QString::fromStdString(widest.longest), metrics, digit);
     int width = 0;
@@ -127,6 +131,25 @@ int amountWidth(const NodeStore &store, const std::vector<int> &nodes, const Tdx
     if (widest.positive >= 0)
         width = std::max(width, widthOf(values::formatFloat(format, 0), metrics, digit));
     return width;
+}
+
+} // namespace
+
+std::vector<int> amountWidths(const NodeStore &store, const std::vector<int> &nodes,
+                              const std::vector<const TdxTreeListCurrencyColumn *> &columns,
+                              const QFontMetrics &metrics)
+{
+    std::vector<Widest> widest(columns.size());
+    std::string scratch;
+    for (const int node : nodes) {
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            add(store.utf8(node, columns[i]->position(), scratch), widest[i]);
+    }
+    const QChar digit = widestDigit(metrics);
+    std::vector<int> widths;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        widths.push_back(widthOf(widest[i], columns[i]->displayFormat(), metrics, digit));
+    return widths;
 }
 
 } // namespace toolkit::treelist

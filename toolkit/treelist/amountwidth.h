@@ -11,9 +11,11 @@ namespace toolkit::treelist {
 
 class NodeStore;
 
-/// Width (pixels) of the widest amount that the nodes can show in the column, without a margin. Digits are counted, not
-/// drawn: hundreds of thousands of amounts cost little more than reading them. Texts that are no amounts do not count.
-[[nodiscard]] int amountWidth(const NodeStore &store, const std::vector<int> &nodes,
-                              const TdxTreeListCurrencyColumn &column, const QFontMetrics &metrics);
+/// For each column the width (pixels) of the widest amount that the nodes can show in it, without a margin. Digits are
+/// counted, not drawn: hundreds of thousands of amounts cost little more than reading them, which is done row by row.
+/// Texts that are no amounts do not count.
+[[nodiscard]] std::vector<int> amountWidths(const NodeStore &store, const std::vector<int> &nodes,
+                                            const std::vector<const TdxTreeListCurrencyColumn *> &columns,
+                                            const QFontMetrics &metrics);
 
 } // namespace toolkit::treelist

@@ -42,12 +42,13 @@ void ColumnFit::loaded()
     }
     if (m_store.nodeCount() == 0)
         return;
+    const std::vector<int> widths = amountsWidths(0, static_cast<int>(m_columns.size()) - 1);
     for (std::size_t i = 0; i < m_columns.size(); ++i) {
         const auto column = static_cast<int>(i);
         if (!m_fitted)
-            refit(column);
+            fit(column, widths[i]);
         else
-            widen(column, numbersRows(column) ? rowsWidth(column) : amountsWidth(column));
+            widen(column, numbersRows(column) ? rowsWidth(column) : widths[i]);
     }
     m_fitted = true;
 }
@@ -60,18 +61,22 @@ bool ColumnFit::numbersRows(int column) const
 
 void ColumnFit::refit(int column)
 {
-    const auto at = static_cast<std::size_t>(column);
-    if (m_header.isPlain()) {
+    if (m_header.isPlain())
         fillWidth();
-        return;
-    }
+    else
+        fit(column, amountsWidths(column, column).front());
+}
+
+void ColumnFit::fit(int column, int amountsWidth)
+{
+    const auto at = static_cast<std::size_t>(column);
     if (m_kept[at] || m_header.isSectionHidden(column))
         return;
     const int wide = m_view.fontMetrics().horizontalAdvance(QStringLiteral("国")) * 20;
     const char *widest = m_columns[at]->definition().widest;
     const int sample = widest == nullptr ? rowsWidth(column) : textWidth(QString::fromUtf8(widest));
     const int texts = std::max(m_header.sectionSizeHint(column), std::min(sample, wide));
-    setWidth(column, std::max(texts, amountsWidth(column)));
+    setWidth(column, std::max(texts, amountsWidth));
 }
 
 const TdxTreeListCurrencyColumn *ColumnFit::amounts(int column) const
@@ -151,13 +156,21 @@ int ColumnFit::withMargins(int width) const
     return width + 2 * textMargin(m_view) + 2;
 }
 
-int ColumnFit::amountsWidth(int column) const
+std::vector<int> ColumnFit::amountsWidths(int first, int last) const
 {
-    const TdxTreeListCurrencyColumn *about = amounts(column);
+    std::vector<int> widths(static_cast<std::size_t>(last - first + 1), 0);
     const std::vector<int> &nodes = m_store.children(NodeStore::None);
-    if (about == nullptr || nodes.empty() || m_header.isSectionHidden(column))
-        return 0;
-    return withMargins(amountWidth(m_store, nodes, *about, m_view.fontMetrics()));
+    if (nodes.empty())
+        return widths;
+    std::vector<const TdxTreeListCurrencyColumn *> shown;
+    for (int column = first; column <= last; ++column) {
+        if (amounts(column) != nullptr && !m_header.isSectionHidden(column))
+            shown.push_back(amounts(column));
+    }
+    const std::vector<int> found = amountWidths(m_store, nodes, shown, m_view.fontMetrics());
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        widths[static_cast<std::size_t>(shown[i]->position() - first)] = withMargins(found[i]);
+    return widths;
 }
 
 int ColumnFit::cellWidth(int node, int column) const

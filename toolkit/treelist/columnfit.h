@@ -40,8 +40,10 @@ public:
 private:
     /// Widest text of the rows that a first look shows, and of the last row.
     [[nodiscard]] int rowsWidth(int column) const;
-    /// Widest amount of all rows; 0 in other columns.
-    [[nodiscard]] int amountsWidth(int column) const;
+    /// Of columns `first` to `last`, the width that the widest amount of all rows needs; 0 for other columns.
+    [[nodiscard]] std::vector<int> amountsWidths(int first, int last) const;
+    /// To caption, first rows and amounts.
+    void fit(int column, int amountsWidth);
     [[nodiscard]] int treeWidth(int column) const;
     [[nodiscard]] int textWidth(const QString &text) const;
     [[nodiscard]] int withMargins(int width) const;
