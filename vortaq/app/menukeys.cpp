@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The menus of the main window by keyboard.
+// Menus by keyboard.
 #include "vortaq/app/menukeys.h"
 
 #include <QContextMenuEvent>
@@ -14,19 +14,20 @@ MenuKeys::MenuKeys(QMainWindow &window)
     : QObject(&window)
     , m_window(window)
 {
-    m_window.installEventFilter(this);
+    QCoreApplication::instance()->installEventFilter(this);
 }
 
 bool MenuKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
+    const auto *window = qobject_cast<const QWidget *>(watched);
+    if (event->type() != QEvent::KeyPress || window == nullptr || !window->isWindow())
         return QObject::eventFilter(watched, event);
     const QKeyCombination pressed = static_cast<const QKeyEvent *>(event)->keyCombination();
-    if (pressed == QKeyCombination(Qt::Key_F10)) {
+    if (window == &m_window && pressed == QKeyCombination(Qt::Key_F10)) {
         m_window.menuBar()->setActiveAction(m_window.menuBar()->actions().value(0));
         return true;
     }
-    QWidget *focus = m_window.focusWidget();
+    QWidget *focus = window->focusWidget();
     if (pressed != (Qt::SHIFT | Qt::Key_F10) || focus == nullptr)
         return QObject::eventFilter(watched, event);
     const QPoint place = focus->rect().center();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The menus of the main window by keyboard.
+// Menus by keyboard.
 #pragma once
 
 #include <QObject>
@@ -8,8 +8,9 @@ class QMainWindow;
 
 namespace vortaq {
 
-/// Takes the keys that nothing in the window wanted: F10 opens the menu bar, which leaves the letters with Alt to the
-/// module's buttons, and Shift+F10 the context menu of what has the focus, as the menu key does.
+/// Takes the keys that nothing in a window wanted: F10 opens the main window's menu bar, which leaves the letters with
+/// Alt to the module's buttons, and Shift+F10, in dialogs too, the context menu of what has the focus, as the menu key
+/// does.
 class MenuKeys : public QObject {
     Q_OBJECT
 

@@ -2,7 +2,9 @@
 // Tests of the main window around a module's form.
 #include "tests/vortaq/app/support/mainwindowfixture.h"
 
+#include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -172,6 +174,21 @@ TEST_F(MainWindowTest, ShiftF10OpensTheContextMenuOfWhatHasTheFocus)
     button.setFocus();
     QTest::keyClick(&button, Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_EQ(requests, 1);
+}
+
+TEST_F(MainWindowTest, ShiftF10OpensTheMenuOfAnEditInADialog)
+{
+    QDialog dialog(&m_window);
+    QLineEdit edit(&dialog);
+    edit.setContextMenuPolicy(Qt::CustomContextMenu);
+    int requests = 0;
+    QObject::connect(&edit, &QWidget::customContextMenuRequested, &m_window, [&requests] { ++requests; });
+    dialog.show();
+    edit.setFocus();
+    QTest::keyClick(&edit, Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(requests, 1);
+    QTest::keyClick(&edit, Qt::Key_F10);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(MainWindowTest, MinimisingAndClosingTheWindowLeaveTheFormOpen)
